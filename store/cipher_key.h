@@ -1,0 +1,30 @@
+#ifndef STORE_CIPHER_KEY_H_
+#define STORE_CIPHER_KEY_H_
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace survey {
+
+inline constexpr int kSaltBytes = 16;
+using Salt = std::array<unsigned char, kSaltBytes>;
+
+// Deriving a key from the password costs some 30 ms, and a page opens up to four connections to
+// the same file. So the key of the last file is kept, told by the file's salt: a replaced file
+// brings another salt and is derived anew.
+class CipherKeys {
+ public:
+  // The raw key of a file with that salt, as the engine takes it: x'...' with 64 hex digits.
+  // The reference holds until the next call.
+  const std::string& RawKey(std::string_view password, const Salt& salt);
+
+ private:
+  Salt salt_{};
+  std::string password_;
+  std::string raw_key_;
+};
+
+}  // namespace survey
+
+#endif  // STORE_CIPHER_KEY_H_

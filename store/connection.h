@@ -1,0 +1,79 @@
+#ifndef STORE_CONNECTION_H_
+#define STORE_CONNECTION_H_
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "store/cipher_key.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace survey {
+
+// Sees each statement as it was given, before it runs.
+using StatementObserver = std::function<void(std::string_view statement)>;
+
+// One open survey database. All statements go in as the survey words them (see dialect.h), one
+// statement a call. Failures are thrown as RunTimeError with the engine's result code.
+//
+// Writing: the first statement that writes begins a group, EndGroup() commits it. Statements of a
+// group are separate: one that fails takes nothing back of those before it. Destroying the
+// connection ends the group.
+class Connection {
+ public:
+  // Opens the database for reading and writing; never creates one. The password is tested by a
+  // first read. Throws RunTimeError and leaves the file untouched when it is missing, a folder,
+  // not readable and writable, no survey database (empty, foreign, truncated, unencrypted), or
+  // has another password. `keys` must outlive the call only. The call reads the file beside the
+  // engine, which drops every lock that this process holds on it: no other connection to the same
+  // file may be in the middle of a group.
+  static std::unique_ptr<Connection> Open(const std::string& path, std::string_view password,
+                                          CipherKeys& keys);
+
+  // Makes a new, empty, encrypted database in the format that every reader of ours understands.
+  // Throws when something stands at `path` already.
+  static std::unique_ptr<Connection> Create(const std::string& path, std::string_view password);
+
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  // Runs a statement that returns no rows.
+  void Execute(std::string_view statement);
+
+  // Commits what was written since the group began; nothing to do where nothing was written.
+  // When the commit fails the group is taken back as a whole and the failure thrown.
+  void EndGroup();
+
+  // Engine's own SQL, several statements allowed, not seen by the observer and beginning no group
+  // of its own: for the schema and the template, never for a text that holds a user's words.
+  void ExecuteScript(const char* sql);
+
+  void set_observer(StatementObserver observer) { observer_ = std::move(observer); }
+
+ private:
+  friend class Recordset;
+  struct CloseDatabase {
+    void operator()(sqlite3* database) const;
+  };
+  struct FinalizeStatement {
+    void operator()(sqlite3_stmt* statement) const;
+  };
+  using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
+
+  explicit Connection(std::unique_ptr<sqlite3, CloseDatabase> database);
+
+  Statement Prepare(std::string_view statement);
+  bool Step(sqlite3_stmt* statement);  // true while there is a row
+  bool InGroup() const;  // asks the engine, which may have taken the group back by itself
+
+  std::unique_ptr<sqlite3, CloseDatabase> database_;
+  StatementObserver observer_;
+};
+
+}  // namespace survey
+
+#endif  // STORE_CONNECTION_H_

@@ -1,0 +1,20 @@
+#ifndef STORE_DIALECT_H_
+#define STORE_DIALECT_H_
+
+#include <string>
+#include <string_view>
+
+namespace survey {
+
+// Turns one of the survey's statements into the engine's SQL, token by token and never inside
+// quotes:
+//   Delete * from t            ->  Delete from t
+//   #2012/10/04#               ->  '2012/10/04', a day of the calendar, padded with zeros
+//   college & 4                ->  a condition that always holds: the joined text is never false
+// Throws RunTimeError for what the survey's statements never hold and a stray quote could bring
+// in: a comment, a date that is none, a quote that is not closed.
+std::string ToEngineSql(std::string_view statement);
+
+}  // namespace survey
+
+#endif  // STORE_DIALECT_H_

@@ -1,0 +1,68 @@
+#include "store/recordset.h"
+
+#define SQLITE_HAS_CODEC 1
+#include <sqlite3.h>
+
+#include <algorithm>
+
+#include "store/run_time_error.h"
+#include "store/text.h"
+
+namespace survey {
+namespace {
+
+Value ColumnValue(sqlite3_stmt* statement, int column) {
+  switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_NULL:
+      return Value();
+    case SQLITE_INTEGER:
+    case SQLITE_FLOAT:
+      return Value(sqlite3_column_double(statement, column));
+    default:
+      const void* bytes = sqlite3_column_blob(statement, column);
+      const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+      return Value(std::string(static_cast<const char*>(bytes), size));
+  }
+}
+
+}  // namespace
+
+void Recordset::Open(std::string_view statement, Connection* connection) {
+  Close();
+  if (!connection) throw ObjectNotSet();
+  const Connection::Statement query = connection->Prepare(statement);
+  std::vector<std::vector<Value>> rows;
+  const int columns = sqlite3_column_count(query.get());
+  while (connection->Step(query.get())) {
+    std::vector<Value>& row = rows.emplace_back();
+    row.reserve(static_cast<std::size_t>(columns));
+    for (int column = 0; column < columns; ++column)
+      row.push_back(ColumnValue(query.get(), column));
+  }
+  for (int column = 0; column < columns; ++column) {
+    names_.emplace_back(sqlite3_column_name(query.get(), column));
+  }
+  rows_ = std::move(rows);
+}
+
+void Recordset::Close() {
+  names_.clear();
+  rows_.clear();
+  position_ = 0;
+}
+
+const Value& Recordset::Field(std::string_view name) const {
+  const auto found = std::ranges::find_if(
+      names_, [&](const std::string& own) { return EqualsIgnoringCase(own, name); });
+  if (found == names_.end()) {
+    constexpr double kNoSuchField = 3265;
+    throw RunTimeError(kNoSuchField, "The query gives no field " + std::string(name));
+  }
+  if (Eof()) {
+    constexpr double kNoRecord = 3021;
+    throw RunTimeError(kNoRecord, "There is no record in front");
+  }
+  return rows_[position_][static_cast<std::size_t>(found - names_.begin())];
+}
+
+}  // namespace survey

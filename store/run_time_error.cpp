@@ -1,0 +1,14 @@
+#include "store/run_time_error.h"
+
+namespace survey {
+
+RunTimeError InvalidProcedureCall() { return {5, "Invalid procedure call or argument"}; }
+RunTimeError Overflow() { return {6, "Overflow"}; }
+RunTimeError TypeMismatch() { return {13, "Type mismatch"}; }
+RunTimeError FileNotFound() { return {53, "File not found"}; }
+RunTimeError PathNotFound() { return {76, "Path not found"}; }
+RunTimeError ObjectNotSet() { return {91, "Object variable or With block variable not set"}; }
+RunTimeError InvalidUseOfNull() { return {94, "Invalid use of Null"}; }
+RunTimeError CancelWasSelected() { return {32755, "Cancel was selected."}; }
+
+}  // namespace survey

@@ -1,0 +1,35 @@
+#ifndef STORE_RUN_TIME_ERROR_H_
+#define STORE_RUN_TIME_ERROR_H_
+
+#include <stdexcept>
+#include <string>
+
+namespace survey {
+
+// A failure that a handler may trap. `number` is what the error box shows in its caption: the
+// users' well-known number for failures of the program itself (below), else the store engine's
+// result code. `what()` is the description, in UTF-8.
+class RunTimeError : public std::runtime_error {
+ public:
+  RunTimeError(double number, const std::string& description)
+      : std::runtime_error(description), number_(number) {}
+
+  double number() const { return number_; }
+
+ private:
+  double number_;
+};
+
+// The failures that users know by number. Never change a number or a text.
+RunTimeError InvalidProcedureCall();  // 5
+RunTimeError Overflow();              // 6
+RunTimeError TypeMismatch();          // 13
+RunTimeError FileNotFound();          // 53
+RunTimeError PathNotFound();          // 76
+RunTimeError ObjectNotSet();          // 91
+RunTimeError InvalidUseOfNull();      // 94
+RunTimeError CancelWasSelected();     // 32755
+
+}  // namespace survey
+
+#endif  // STORE_RUN_TIME_ERROR_H_

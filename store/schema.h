@@ -1,0 +1,12 @@
+#ifndef STORE_SCHEMA_H_
+#define STORE_SCHEMA_H_
+
+namespace survey {
+
+// The tables of the survey database, in the engine's SQL. Names are for ever: every handed-in
+// file has them.
+extern const char kSchema[];
+
+}  // namespace survey
+
+#endif  // STORE_SCHEMA_H_

@@ -1,0 +1,106 @@
+#include "store/text.h"
+
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "store/run_time_error.h"
+
+namespace survey {
+namespace {
+
+icu::UnicodeString FromUtf8(std::string_view text) {
+  return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
+}
+
+// The characters at the start of `text` that make a decimal number, without blanks in between:
+// figures are also typed as "12 500".
+std::string LeadingDigits(std::string_view text) {
+  std::string digits;
+  bool has_point = false;
+  for (const char c : text) {
+    if (c == ' ' || c == '\t' || c == '\r' || c == '\n') continue;
+    const bool sign = (c == '-' || c == '+') && digits.empty();
+    const bool point = c == '.' && !has_point;
+    if (!sign && !point && (c < '0' || c > '9')) break;
+    has_point = has_point || point;
+    digits += c;
+  }
+  return digits;
+}
+
+template <typename Whole>
+Whole RoundTo(double number) {
+  const double rounded = std::nearbyint(number);  // half to even, the mode every program starts in
+  if (!(rounded >= std::numeric_limits<Whole>::min() &&
+        rounded <= std::numeric_limits<Whole>::max())) {
+    throw Overflow();
+  }
+  return static_cast<Whole>(rounded);
+}
+
+char LowerLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+}  // namespace
+
+std::string SqlEscape(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) escaped.append(c == '\'' ? 2 : 1, c);
+  return escaped;
+}
+
+double LeadingNumber(std::string_view text) {
+  const std::string digits = LeadingDigits(text);
+  const char* first = digits.data() + (digits.starts_with('+') ? 1 : 0);
+  double number = 0;
+  const auto result = std::from_chars(first, digits.data() + digits.size(), number);
+  if (result.ec == std::errc::result_out_of_range) throw Overflow();
+  return number;
+}
+
+std::string NumberText(double number) {
+  if (number == 0) return "0";
+  std::array<char, 1200> buffer;  // the smallest numbers have over a thousand digits written out
+  const auto result =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
+  return {buffer.data(), result.ptr};
+}
+
+std::int32_t ToWholeNumber(double number) { return RoundTo<std::int32_t>(number); }
+
+std::int16_t ToSmallWholeNumber(double number) { return RoundTo<std::int16_t>(number); }
+
+int CharacterCount(std::string_view text) { return FromUtf8(text).countChar32(); }
+
+std::string UpperCase(std::string_view text) {
+  std::string capitals;
+  FromUtf8(text).toUpper(icu::Locale::getRoot()).toUTF8String(capitals);
+  return capitals;
+}
+
+std::string Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+bool IsValidUtf8(std::string_view text) {
+  std::string back;
+  FromUtf8(text).toUTF8String(back);
+  return back == text;  // what is not valid was replaced on the way
+}
+
+bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
+  return std::ranges::equal(left, right, {}, LowerLetter, LowerLetter);
+}
+
+std::filesystem::path ToPath(std::string_view text) {
+  return std::u8string(text.begin(), text.end());
+}
+
+}  // namespace survey

@@ -1,0 +1,48 @@
+#ifndef STORE_TEXT_H_
+#define STORE_TEXT_H_
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace survey {
+
+// `text` with every single quote doubled, ready to stand between single quotes in a statement.
+std::string SqlEscape(std::string_view text);
+
+// The number that `text` gives from its start: blanks are passed over, reading stops at the first
+// character that cannot belong to a decimal number ("12 A" is 12, "" and "A" are 0). The decimal
+// mark is the point, whatever the user's locale.
+double LeadingNumber(std::string_view text);
+
+// The shortest plain decimal text that gives `number` back: no exponent, no decimal point for a
+// whole number, "-0" never.
+std::string NumberText(double number);
+
+// `number` as a whole number, rounded half to even. Throws Overflow() when it does not fit 32
+// bits (or 16 bits).
+std::int32_t ToWholeNumber(double number);
+std::int16_t ToSmallWholeNumber(double number);
+
+// Number of characters (Unicode code points) of a UTF-8 text; lengths of cells are told in them.
+int CharacterCount(std::string_view text);
+
+// `text` in capitals, accented letters included.
+std::string UpperCase(std::string_view text);
+
+// `text` without blanks at its ends.
+std::string Trim(std::string_view text);
+
+bool IsValidUtf8(std::string_view text);
+
+// True when the two differ in the case of plain letters at most: names of tables and columns are
+// spelled in any case.
+bool EqualsIgnoringCase(std::string_view left, std::string_view right);
+
+// The path that a UTF-8 text names.
+std::filesystem::path ToPath(std::string_view text);
+
+}  // namespace survey
+
+#endif  // STORE_TEXT_H_

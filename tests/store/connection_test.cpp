@@ -1,0 +1,153 @@
+#include "store/connection.h"
+
+#define SQLITE_HAS_CODEC 1
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <vector>
+
+#include "store_fixture.h"
+
+namespace survey {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class ConnectionTest : public StoreTest {
+ protected:
+  // Opening must fail, name the file, and leave the folder as it was.
+  void ExpectRefused(const std::string& path, double number, const std::string& reason) {
+    const std::string before = std::filesystem::is_directory(path) ? "" : ReadBytes(path);
+    const auto files_before = FilesInFolder();
+    const std::string told =
+        FailsWith(number, [&] { Connection::Open(path, DatabasePassword(), keys_); });
+    EXPECT_THAT(told, testing::AllOf(HasSubstr(path), HasSubstr(reason)));
+    EXPECT_TRUE(std::filesystem::is_directory(path) || ReadBytes(path) == before);
+    EXPECT_EQ(FilesInFolder(), files_before);
+  }
+
+  void ExpectBytesRefused(const std::string& bytes, double number, const std::string& reason) {
+    WriteBytes(path_, bytes);
+    ExpectRefused(path_, number, reason);
+  }
+};
+
+TEST_F(ConnectionTest, RefusesWhatIsNoFileOfOurs) {
+  for (const std::string missing : {"/nowhere/none.mdb", "", ":memory:"}) {
+    ExpectRefused(missing, SQLITE_CANTOPEN, "does not exist");
+  }
+  ExpectRefused(folder_, SQLITE_CANTOPEN, "is not a file");
+  ExpectBytesRefused("", SQLITE_NOTADB, "empty");
+  ExpectBytesRefused(std::string(1023, 'x'), SQLITE_NOTADB, "too short");
+  ExpectBytesRefused(std::string(4096, '\0'), SQLITE_NOTADB, "not a survey database");
+
+  std::filesystem::remove(path_);
+  sqlite3* plain = nullptr;
+  ASSERT_EQ(sqlite3_open(path_.c_str(), &plain), SQLITE_OK);
+  sqlite3_exec(plain, "create table tbl_SETAAccreditation(x)", nullptr, nullptr, nullptr);
+  sqlite3_close(plain);
+  ExpectRefused(path_, SQLITE_NOTADB, "without a password");
+
+  std::filesystem::remove(path_);
+  Connection::Create(path_, "TarquinVOx")->ExecuteScript("create table tbl_SETAAccreditation(x)");
+  ExpectRefused(path_, SQLITE_NOTADB, "another password");
+  FailsWith(SQLITE_CANTOPEN, [&] { Connection::Create(path_, "TarquinVOX"); });
+}
+
+TEST_F(ConnectionTest, RefusesAFileThatWasCutOrChanged) {
+  const std::string whole = ReadBytes(path_);
+  for (const std::size_t cut : {1, 1024, 5000}) {
+    ExpectBytesRefused(whole.substr(0, whole.size() - cut), SQLITE_CORRUPT, "missing");
+    ExpectBytesRefused(whole.substr(0, cut + 1024), SQLITE_CORRUPT, "missing");
+  }
+  for (const std::size_t at : {0, 15, 16, 500, 975, 1011}) {
+    std::string changed = whole;
+    changed[at] = static_cast<char>(changed[at] ^ 1);
+    ExpectBytesRefused(changed, SQLITE_NOTADB, "not a survey database");
+  }
+}
+
+// The administrator may read and write everything, so the test is done as somebody else.
+class AsSomebody {
+ public:
+  AsSomebody() { EXPECT_TRUE(user_ != 0 || seteuid(65534) == 0); }
+  ~AsSomebody() { EXPECT_TRUE(user_ != 0 || seteuid(user_) == 0); }
+
+ private:
+  const uid_t user_ = geteuid();
+};
+
+TEST_F(ConnectionTest, RefusesAFileWithoutPermission) {
+  for (const mode_t mode : {0444, 0}) {
+    ASSERT_EQ(chmod(path_.c_str(), mode), 0);
+    const AsSomebody somebody;
+    ExpectRefused(path_, mode ? SQLITE_READONLY : SQLITE_CANTOPEN,
+                  mode ? "cannot be written" : "cannot be read");
+  }
+}
+
+TEST_F(ConnectionTest, TheFileIsEncryptedAndAloneInItsFolder) {
+  Open()->ExecuteScript("PRAGMA journal_mode = WAL");  // by another program
+  {
+    const auto connection = Open();
+    connection->Execute("Update lst_province set Province = 'Readable'");
+    EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
+    connection->EndGroup();
+    EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
+    Recordset mode;
+    mode.Open("PRAGMA synchronous", connection.get());
+    EXPECT_TRUE(mode.Field("synchronous").Is(3));
+  }
+  EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
+  for (const char* plain : {"SQLite format 3", "Readable", "tbl_StaffDetail"}) {
+    EXPECT_EQ(ReadBytes(path_).find(plain), std::string::npos) << plain;
+  }
+  EXPECT_EQ(AnswerOfFile("select min(Province) from lst_province"), "Readable");
+}
+
+TEST_F(ConnectionTest, TheKeyIsDerivedOnceAFileAndAnewForAReplacedOne) {
+  Salt salt;
+  for (unsigned char i = 0; i < kSaltBytes; ++i) salt[i] = i;
+  using Clock = std::chrono::steady_clock;
+  const auto start = Clock::now();
+  const std::string key = keys_.RawKey("TarquinVOX", salt);
+  EXPECT_EQ(key, "x'6ecf186184e25ac739c6a82a4c46ca31f976a933ee6610f85c66e2275a83f1d6'");
+  const auto derivation = Clock::now() - start;
+  for (int i = 0; i < 100; ++i) keys_.RawKey("TarquinVOX", salt);
+  EXPECT_LT(Clock::now() - start - derivation, derivation);
+  EXPECT_NE(keys_.RawKey("TarquinVOx", salt), key);
+
+  EXPECT_EQ(AnswerOfFile("select count(*) from lst_province"), "2");
+  SurveyLists other = SmallLists();
+  other.provinces.resize(1);
+  MakeTemplate(other, path_);
+  EXPECT_EQ(AnswerOfFile("select count(*) from lst_province"), "1");
+}
+
+TEST_F(ConnectionTest, RecordsetsReadForwardByNameInAnyCase) {
+  const auto connection = Open();
+  std::vector<std::string> seen;
+  connection->set_observer([&](std::string_view text) { seen.emplace_back(text); });
+  const std::string query = "Select provinceCD,province from lst_province order by province";
+  Recordset rows;
+  EXPECT_TRUE(rows.Eof());
+  rows.Open(query, connection.get());
+  EXPECT_EQ(rows.RecordCount(), 2);
+  EXPECT_EQ(rows.Field("PROVINCE").Text(), "Gauteng");
+  connection->Execute("Delete * from lst_province");  // a recordset left open harms nobody
+  rows.MoveNext();
+  EXPECT_TRUE(rows.Field("ProvinceCD").Is(1));
+  FailsWith(3265, [&] { rows.Field("provinc"); });
+  rows.MoveNext();
+  EXPECT_TRUE(rows.Eof());
+  FailsWith(3021, [&] { rows.Field("province"); });
+  FailsWith(1, [&] { rows.Open("Select x from lst_province", connection.get()); });
+  EXPECT_EQ(rows.RecordCount(), 0);
+  FailsWith(91, [&] { rows.Open(query, nullptr); });
+  EXPECT_THAT(seen, ElementsAre(query, "Delete * from lst_province", "Select x from lst_province"));
+}
+
+}  // namespace
+}  // namespace survey

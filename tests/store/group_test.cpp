@@ -1,0 +1,132 @@
+#include <sys/wait.h>
+
+#include <csignal>
+
+#include "store_fixture.h"
+
+namespace survey {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr const char* kCount = "select count(*) from tbl_StudentEnrolment";
+
+class GroupTest : public StoreTest {
+ protected:
+  static void Enrol(Connection& connection, int quantity) {
+    connection.Execute(
+        "Insert into tbl_StudentEnrolment(CollegeEmisNumber,CampusEmisnumber,ProgrammeTypeCD,"
+        "GenderCD,SurveyYear,Quantity)VALUES(10,11,1,2,2012," +
+        std::to_string(quantity) + ")");
+  }
+
+  // Another program that has done `work` on the database and then waits, until it is killed.
+  template <typename Work>
+  pid_t StartOtherProgram(Work work) {
+    int pipe_ends[2];
+    EXPECT_EQ(pipe(pipe_ends), 0);
+    const pid_t other = fork();
+    if (other == 0) {
+      const auto connection = Open();
+      work(*connection);
+      if (write(pipe_ends[1], "!", 1) != 1) _exit(1);
+      for (;;) pause();
+    }
+    char mark = 0;
+    EXPECT_EQ(read(pipe_ends[0], &mark, 1), 1);
+    close(pipe_ends[0]);
+    close(pipe_ends[1]);
+    return other;
+  }
+
+  static void Kill(pid_t other) {
+    kill(other, SIGKILL);
+    waitpid(other, nullptr, 0);
+  }
+};
+
+TEST_F(GroupTest, OneCommitEndsAGroupOfStatements) {
+  const auto reader = Open();
+  EXPECT_EQ(Answer(kCount, *reader), "0");
+  auto writer = Open();
+  writer->EndGroup();  // nothing was written
+  Enrol(*writer, 1);   // would find the file locked, had the query begun a group
+  Enrol(*writer, 2);
+  EXPECT_EQ(Answer(kCount, *writer), "2");
+  EXPECT_EQ(Answer(kCount, *reader), "0");
+  writer->EndGroup();
+  EXPECT_EQ(Answer(kCount, *reader), "2");
+  Enrol(*writer, 3);
+  writer.reset();
+  EXPECT_EQ(Answer(kCount, *reader), "3");
+}
+
+TEST_F(GroupTest, AFailureTakesNothingBackOfWhatWasDoneBefore) {
+  const auto connection = Open();
+  connection->ExecuteScript(
+      "create trigger unlucky before insert on tbl_StudentEnrolment when new.Quantity = 13 "
+      "begin select raise(abort, 'thirteen'); end;"
+      "create trigger worse before insert on tbl_StudentEnrolment when new.Quantity = 14 "
+      "begin select raise(rollback, 'fourteen'); end;");
+  Enrol(*connection, 1);
+  EXPECT_EQ(FailsWith(19, [&] { Enrol(*connection, 13); }), "thirteen");
+  EXPECT_THROW(connection->Execute("Insert into nowhere values(1)"), RunTimeError);
+  Enrol(*connection, 2);
+  connection->EndGroup();
+  EXPECT_EQ(AnswerOfFile(kCount), "2");
+
+  Enrol(*connection, 3);
+  FailsWith(19, [&] { Enrol(*connection, 14); });  // the engine ends this group itself
+  Enrol(*connection, 4);
+  connection->EndGroup();
+  EXPECT_EQ(AnswerOfFile("select group_concat(Quantity) from tbl_StudentEnrolment"), "1,2,4");
+}
+
+TEST_F(GroupTest, AnotherProgramsLockIsWaitedForAndThenReported) {
+  const auto mine = Open();
+  const auto other = Open();
+  other->ExecuteScript("BEGIN EXCLUSIVE");
+  EXPECT_EQ(FailsWith(5, [&] { Enrol(*mine, 1); }), "database is locked");
+  other->ExecuteScript("COMMIT");
+  Enrol(*mine, 2);
+
+  other->ExecuteScript("BEGIN; select count(*) from lst_province");  // reads on while we commit
+  EXPECT_EQ(FailsWith(5, [&] { mine->EndGroup(); }), "database is locked");
+  other->ExecuteScript("COMMIT");
+  EXPECT_EQ(Answer(kCount, *mine), "0");  // taken back as a whole
+  Enrol(*mine, 3);
+  mine->EndGroup();
+  EXPECT_EQ(Answer("select Quantity from tbl_StudentEnrolment", *other), "3");
+}
+
+TEST_F(GroupTest, ALockedFileIsNotTakenForAForeignOne) {
+  const pid_t other =
+      StartOtherProgram([](Connection& theirs) { theirs.ExecuteScript("BEGIN EXCLUSIVE"); });
+  EXPECT_THAT(FailsWith(5, [&] { Open(); }), HasSubstr("database is locked"));
+  Kill(other);
+  EXPECT_EQ(AnswerOfFile(kCount), "0");
+}
+
+TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
+  const auto size_before = std::filesystem::file_size(path_);
+  const pid_t other = StartOtherProgram([](Connection& theirs) {
+    Enrol(theirs, 1);
+    theirs.EndGroup();
+    theirs.Execute("Delete * from tbl_StudentEnrolment");
+    theirs.Execute(  // more than the engine keeps in memory, so that pages reach the file
+        "Insert into tbl_StaffTraining(CourseName) with recursive n(i) as (select 1 union all "
+        "select i + 1 from n where i < 5000) select hex(randomblob(500)) from n");
+  });
+  Kill(other);
+  ASSERT_GT(std::filesystem::file_size(path_), size_before * 2);
+  ASSERT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
+
+  EXPECT_EQ(AnswerOfFile(kCount), "1");
+  EXPECT_EQ(AnswerOfFile("select count(*) from tbl_StaffTraining"), "0");
+  EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
+  EXPECT_LT(std::filesystem::file_size(path_), size_before * 2);
+}
+
+}  // namespace
+}  // namespace survey

@@ -1,0 +1,98 @@
+#include "store/survey.h"
+
+#include "store_fixture.h"
+
+namespace survey {
+namespace {
+
+class SurveyTest : public StoreTest {
+ protected:
+  SurveyTest() {
+    survey_.DatabasePath = path_;
+    survey_.set_error_reporter([this](std::string_view location, std::string_view description,
+                                      std::string_view procedure, double number) {
+      EXPECT_FALSE(description.empty());
+      reports_ += std::string(location) + "|" + std::string(procedure) + "|" +
+                  std::to_string(static_cast<int>(number)) + "\n";
+    });
+  }
+
+  void Register(const std::string& college_campus_code_year_quantity) {
+    survey_.Execute(
+        "Insert into tbl_StudentRegistration(CollegeEmisNumber,CampusEmisnumber,"
+        "ProgrammeRegistrationTypeCD,SurveyYear,Quantity)VALUES(" +
+        college_campus_code_year_quantity + ")");
+  }
+
+  Survey survey_;
+  std::string reports_;
+};
+
+TEST_F(SurveyTest, AFailedOpeningIsReportedAndTheNextStatementFails) {
+  survey_.OpenDatabaseConnection();
+  ASSERT_TRUE(survey_.DatabaseConnection);
+  for (const char* path : {"", "/nowhere/none.mdb"}) {
+    survey_.DatabasePath = path;
+    survey_.OpenDatabaseConnection();
+    EXPECT_FALSE(survey_.DatabaseConnection);
+    FailsWith(91, [&] { survey_.Execute("Delete * from lst_province"); });
+  }
+  EXPECT_NO_THROW(survey_.EndStatements());
+  FailsWith(91, [&] { survey_.ControlTotal(4); });
+  const std::string report = "modDatabaseConnection|Database Access Error|14\n";
+  EXPECT_EQ(reports_, report + report + report);
+}
+
+TEST_F(SurveyTest, AReplacedConnectionCommitsFirst) {
+  std::string seen;
+  survey_.set_statement_observer([&](std::string_view text) { seen += text; });
+  survey_.OpenDatabaseConnection();
+  survey_.Execute("Delete * from lst_province where ProvinceCD = 1");
+  survey_.OpenDatabaseConnection();
+  EXPECT_EQ(AnswerOfFile("select count(*) from lst_province"), "1");
+  survey_.Execute("Delete * from lst_province");
+  survey_.CloseDatabaseConnection();
+  EXPECT_FALSE(survey_.DatabaseConnection);
+  EXPECT_EQ(AnswerOfFile("select count(*) from lst_province"), "0");
+  EXPECT_EQ(seen, "Delete * from lst_province where ProvinceCD = 1Delete * from lst_province");
+
+  const auto reader = Open();
+  survey_.OpenDatabaseConnection();
+  survey_.Execute("Delete * from lst_college");
+  reader->ExecuteScript("BEGIN; select count(*) from lst_college");
+  FailsWith(5, [&] { survey_.OpenDatabaseConnection(); });
+  reader->ExecuteScript("COMMIT");
+  EXPECT_EQ(Answer("select count(*) from lst_college", *reader), "2");
+  EXPECT_EQ(reports_, "");
+}
+
+TEST_F(SurveyTest, ControlTotalSumsACampusAndACodeWhateverTheCollege) {
+  survey_.OpenDatabaseConnection();
+  survey_.CampusEmisNumber = 11;
+  for (const char* row :
+       {"99,11,4,2012,7", "99,11,4,2012,5", "99,11,5,2012,100", "10,12,4,2012,1000",
+        "null,11,6,2012,3", "10,11,9,2012,0", "10,11,10,2012,2.5", "10,11,13,2012,2147483647",
+        "10,11,14,2012,2147483648", "10,11,15,2012,null", "10,11,1,2011,5", "10,11,1,2012,7",
+        "10,11,2,2012,20", "12,11,2,2012,40"}) {
+    Register(row);
+  }
+  for (const double college : {0.0, 10.0, 99.0}) {
+    survey_.CollegeEmisNumber = college;
+    const std::pair<std::int16_t, int> totals[] = {{4, 12}, {6, 3},           {9, 0},
+                                                   {10, 2}, {13, 2147483647}, {16, 0}};
+    for (const auto& [code, total] : totals) EXPECT_EQ(survey_.ControlTotal(code), total);
+    EXPECT_THAT(survey_.ControlTotal(1), testing::AnyOf(5, 7));  // one year, not the sum
+    EXPECT_THAT(survey_.ControlTotal(2), testing::AnyOf(20, 40));
+  }
+  EXPECT_EQ(FailsWith(6, [&] { survey_.ControlTotal(14); }), "Overflow");
+  FailsWith(94, [&] { survey_.ControlTotal(15); });
+}
+
+TEST_F(SurveyTest, TheCaptionNamesTheCampusAlone) {
+  EXPECT_EQ(survey_.SurveyCaption("Staff List"), " Corvale ANNUAL Survey -  Emis Number : 0");
+  survey_.CampusEmisNumber = 500123456;
+  EXPECT_EQ(survey_.SurveyCaption(""), " Corvale ANNUAL Survey -  Emis Number : 500123456");
+}
+
+}  // namespace
+}  // namespace survey

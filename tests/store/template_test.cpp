@@ -1,0 +1,130 @@
+#include "store/template.h"
+
+#include "store_fixture.h"
+
+namespace survey {
+namespace {
+
+using testing::ElementsAre;
+
+class TemplateTest : public StoreTest {};
+
+TEST_F(TemplateTest, HoldsTheListsAndOneEarlierRowForEachSite) {
+  const auto connection = Open();
+  Recordset rows;
+  rows.Open("Select * from tbl_Generalinformation where surveyyear = '2011'", connection.get());
+  ASSERT_EQ(rows.RecordCount(), 2);
+  EXPECT_EQ(rows.Field("CollegeName").Text(), "North 'n South");
+  rows.MoveNext();
+  EXPECT_EQ(rows.Field("CampusName").Text(), "Élan");
+  EXPECT_TRUE(rows.Field("sitetype").Is(2) && rows.Field("ProvinceCD").Is(7));
+  for (const char* open : {"Physical_street", "Postal_box", "MISSystem", "MISYear", "Manager"}) {
+    EXPECT_TRUE(rows.Field(open).IsNull()) << open;
+  }
+  const std::pair<const char*, const char*> answers[] = {
+      {"Select collegeemisnumber from lst_college where sitetype = 1 and provinceCD = 7", "10"},
+      {"Select subjectid from lst_Subject where subjectcode like  '04%'", "1"},
+      {"Select subjectcode from lst_Subject where programme = 'nc(v)'", "0456"},
+      {"Select NQFLevel from lst_OccupationalQualification where nqfid = 58761", "Level 2"},
+      {"Select group_concat(province) from lst_province where provincecd <10",
+       "Western Cape,Gauteng"}};
+  for (const auto& [query, answer] : answers) EXPECT_EQ(Answer(query, *connection), answer);
+}
+
+TEST_F(TemplateTest, AppearsWholeOrNotAtAll) {
+  SurveyLists bad = SmallLists();
+  bad.subjects.push_back({"1", std::string("cut\0off", 7), "NSC"});
+  const std::string before = ReadBytes(path_);
+  EXPECT_THROW(MakeTemplate(bad, path_), RunTimeError);
+  EXPECT_EQ(ReadBytes(path_), before);
+  EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
+  WriteBytes(path_ + ".unfinished", "left by a program that was killed");
+  MakeTemplate(SmallLists(), path_);
+  EXPECT_NE(ReadBytes(path_), before);
+  FailsWith(14, [&] { MakeTemplate(SmallLists(), folder_); });
+  FailsWith(14, [&] { MakeTemplate(SmallLists(), folder_ / "none" / "x.mdb"); });
+  EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
+}
+
+TEST_F(TemplateTest, EveryTableIsSearchedBySiteOrPersonAndTakesARecordTwice) {
+  const auto connection = Open();
+  Recordset tables;
+  tables.Open(
+      "Select name,sql from sqlite_master where type = 'table' and name like 'tbl_%' and "
+      "name <> 'tbl_SubjectLoad'",
+      connection.get());
+  EXPECT_EQ(tables.RecordCount(), 27);
+  for (; !tables.Eof(); tables.MoveNext()) {
+    const std::string table = tables.Field("name").Text();
+    const bool of_person = tables.Field("sql").Text().find("IDNumber") != std::string::npos;
+    const std::string id_column = of_person ? ",IDNumber" : "";
+    const std::string id = of_person ? ",'ab1'" : "";
+    const std::string insert = "Insert into " + table + "(CollegeEmisNumber,CampusEmisnumber," +
+                               "surveyyear" + id_column + ")VALUES(10,13,2012" + id + ")";
+    connection->Execute(insert);
+    connection->Execute(insert);
+    const std::string site = "collegeemisnumber = 10 and campusemisnumber = 13";
+    const std::string found =
+        " from " + table + " where " + (of_person ? "IDnumber = 'AB1'" : site);
+    EXPECT_EQ(Answer("select count(*)" + found + " and surveyyear = 2012", *connection), "2");
+    Recordset plan;
+    plan.Open("Explain query plan Select *" + found, connection.get());
+    EXPECT_THAT(plan.Field("detail").Text(), testing::StartsWith("SEARCH")) << table;
+  }
+}
+
+TEST_F(TemplateTest, KindsOfColumnsBehaveAsThePagesExpect) {
+  const auto connection = Open();
+  connection->Execute(
+      "Insert into tbl_StudentBoarders(CollegeEmisNumber,CampusEmisnumber,Country,"
+      "MaleEnrolment,FemaleEnrolment,SurveyYear)VALUES(10,11,'Côte',1,0,2012)");
+  Recordset rows;
+  rows.Open("Select * from tbl_StudentBoarders where Country = 'cÔTE' or COUNTRY = 'CôTE'",
+            connection.get());
+  EXPECT_TRUE(rows.Field("provincecd").IsNull());
+  EXPECT_TRUE(rows.Field("FemaleEnrolment").Is(0));
+
+  for (const char* born : {"#2012/1/4#", "#1999/12/31#", "#2012/01/30#", "#2011/9/9#"}) {
+    connection->Execute(
+        "Insert into tbl_staffdetail(IDNumber,dateofbirth,EmployeeNumber) values "
+        "('" +
+        std::string(born + 1, 4) + "'," + born + ",'007')");
+  }
+  EXPECT_EQ(Answer("select group_concat(dateofbirth) from (select dateofbirth from "
+                   "tbl_staffdetail order by dateofbirth)",
+                   *connection),
+            "1999/12/31,2011/09/09,2012/01/04,2012/01/30");
+  EXPECT_EQ(Answer("select count(*) from tbl_staffdetail where employeenumber = '007' and "
+                   "dateofbirth < #2012/1/30#",
+                   *connection),
+            "3");
+
+  connection->Execute(
+      "UPDATE tbl_GeneralInformation set Postal_Code = '0081',MISSystem = 1,"
+      "SurveyYear = 2012 where CampusEMISnumber = 11");
+  EXPECT_EQ(Answer("select Postal_Code || MISSystem from tbl_generalinformation where surveyyear "
+                   "= '2012'",
+                   *connection),
+            "00811");
+  connection->Execute(
+      "INSERT into lst_Subject(subjectcode,description,programme) "
+      "VALUES('9','x','NSC')");
+  EXPECT_EQ(Answer("select subjectid from lst_subject where subjectcode = '9'", *connection), "3");
+}
+
+TEST_F(TemplateTest, BothSpellingsOfAHostelsPostalCodeAreOne) {
+  const auto connection = Open();
+  const std::string codes =
+      "select group_concat(Physical_Code || '=' || physicalcode) from tbl_Hostels";
+  connection->Execute("INSERT INTO tbl_Hostels (HostelName,Physical_Code) VALUES ('A','0081')");
+  connection->Execute("INSERT INTO tbl_Hostels (HostelName,physicalcode) VALUES ('B','0082')");
+  EXPECT_EQ(Answer(codes, *connection), "0081=0081,0082=0082");
+  connection->Execute("UPDATE tbl_Hostels set physicalcode ='ab' WHERE hostelname = 'a'");
+  connection->Execute("UPDATE tbl_Hostels set Physical_Code ='' WHERE hostelname = 'b'");
+  EXPECT_EQ(Answer(codes, *connection), "ab=ab,=");
+  connection->Execute("UPDATE tbl_Hostels set Hostelname = 'C',physicalcode ='AB'");
+  EXPECT_EQ(Answer(codes, *connection), "AB=AB,AB=AB");
+}
+
+}  // namespace
+}  // namespace survey
