@@ -1,0 +1,172 @@
+// The grid around its entries and totals: code's side, locks, colours, walking, rows.
+
+#include "grid/grid.h"
+
+#include <gtest/gtest.h>
+
+#include "grid/test_designs.h"
+#include "store/run_time_error.h"
+
+namespace survey {
+namespace {
+
+// Column 1 labels, column 2 numbers, column 3 hidden numbers, columns 4 and 5 a text over both;
+// row 4 is closed and ends in a total of column 2.
+const GridDesign kForm{.columns = 5,
+                       .rows = 4,
+                       .column_widths = {900, 900, 0, 900, 900},
+                       .heads = {"", "Number", "", "Name", ""},
+                       .texts = {{1, 1, "1.1"}},
+                       .rules = {{{2, 1, 3, 9}, Number(0, 9)},
+                                 {{4, 1, 5, 3}, Text(20)},
+                                 {{2, 4, 5, 4}, Number(0, 9), false}},
+                       .totals = {{{5, 4}, {{2, 1, 2, 9}}}},
+                       .spans = {{4, 1, 5, 1}, {4, 2, 5, 2}, {4, 3, 5, 3}},
+                       .shades = {{{1, 1}, kGreen}},
+                       .alignments = {{{2, 2}, Alignment::kCenter}}};
+
+TEST(GridTest, CodeWritesAnythingInsideAndIsSilentOutside) {
+  Grid grid(kForm);
+  const auto heard = Listen(grid);
+  grid.SetText(2, 4, "beyond any limit");
+  EXPECT_EQ(grid.GetText(2, 4), "beyond any limit");
+  grid.SetText(1, 2, 2.5);
+  EXPECT_EQ(grid.GetText(1, 2), "2.5");
+  EXPECT_EQ(grid.GetInteger(1, 2), 2) << "half to even";
+  EXPECT_EQ(grid.GetInteger(2, 3), 0);
+  grid.SetText(1, 2, "4000000000");
+  EXPECT_THROW(grid.GetInteger(1, 2), RunTimeError);
+  for (const auto& [column, row] : {Cell{0, 1}, {1, 0}, {6, 1}, {1, 5}, {-1, -1}, {12, 16}}) {
+    grid.SetText(column, row, "x");
+    grid.SetLock(column, row, false);
+    grid.SetBackColor(column, row, kRed);
+    grid.SetActiveCell(column, row);
+    EXPECT_EQ(grid.GetText(column, row), "");
+    EXPECT_TRUE(grid.IsLocked(column, row));
+    EXPECT_FALSE(grid.Type(column, row, "1").taken);
+  }
+  EXPECT_EQ(grid.ActiveColumn(), 1);
+  EXPECT_EQ(grid.ActiveRow(), 1);
+  EXPECT_TRUE(heard->empty());
+}
+
+TEST(GridTest, LocksAndColoursOfCodeOverrideTheDesign) {
+  Grid grid(kForm);
+  EXPECT_EQ(grid.BackColor(2, 1), kWhite);
+  grid.SetLock(2, 1, true);
+  EXPECT_EQ(grid.Type(2, 1, "5").reason, "This cell is locked.");
+  EXPECT_FALSE(grid.MayBecome(2, 1, "5").taken);
+  EXPECT_EQ(grid.BackColor(2, 1), kLockedGrey);
+  grid.SetBackColor(2, 1, kWhite);
+  EXPECT_EQ(grid.BackColor(2, 1), kWhite);
+  EXPECT_FALSE(grid.Type(2, 4, "5").taken);
+  grid.SetLock(2, 4, false);
+  EXPECT_TRUE(grid.Type(2, 4, "5").taken);
+  EXPECT_EQ(grid.BackColor(2, 4), kWhite);
+  EXPECT_TRUE(grid.IsLocked(1, 2)) << "no rule names it";
+  grid.SetLock(1, 2, false);
+  EXPECT_FALSE(grid.Type(1, 2, "5").taken) << "a label takes nothing even then";
+  EXPECT_EQ(grid.BackColor(1, 2), kLockedGrey);
+  EXPECT_EQ(grid.BackColor(1, 1), kGreen);
+  grid.SetBackColor(1, 1, kYellow);
+  grid.ClearRange(1, 1, 5, 4);
+  EXPECT_TRUE(grid.IsLocked(2, 1)) << "locks and colours outlive the data";
+  EXPECT_EQ(grid.BackColor(1, 1), kYellow);
+  EXPECT_EQ(grid.AlignmentOf(2, 1), Alignment::kRight);
+  EXPECT_EQ(grid.AlignmentOf(2, 2), Alignment::kCenter);
+  EXPECT_EQ(grid.AlignmentOf(4, 2), Alignment::kLeft);
+}
+
+TEST(GridTest, TheCursorWalksCellsThatAreOpenAndSeen) {
+  Grid grid(kForm);
+  EXPECT_FALSE(grid.Type(3, 1, "1").taken) << "a column without width";
+  EXPECT_FALSE(grid.Type(5, 1, "x").taken) << "under a span";
+  EXPECT_TRUE(grid.Type(4, 1, "x").taken);
+  EXPECT_EQ(grid.SpanOf(5, 2), (CellRange{4, 2, 5, 2}));
+  EXPECT_EQ(grid.SpanOf(2, 2), (CellRange{2, 2}));
+  grid.SetRowHidden(2, true);
+  EXPECT_FALSE(grid.Type(2, 2, "1").taken);
+  grid.SetLock(2, 3, true);
+  const std::vector<Cell> open{{2, 1}, {4, 1}, {4, 3}};
+  std::vector<Cell> there;
+  for (auto at = grid.NextOpenCell({0, 0}); at; at = grid.NextOpenCell(*at)) there.push_back(*at);
+  EXPECT_EQ(there, open);
+  std::vector<Cell> back;
+  for (auto at = grid.PreviousOpenCell({9, 9}); at; at = grid.PreviousOpenCell(*at)) {
+    back.insert(back.begin(), *at);
+  }
+  EXPECT_EQ(back, open);
+}
+
+TEST(GridTest, MovesAndClicksNotifyOnceAndStayInside) {
+  Grid grid(kForm);
+  const auto heard = Listen(grid);
+  for (const int row : {2, 2, 9}) grid.MoveTo(2, row);
+  for (const int row : {3, 3, 9}) grid.Click(1, row);
+  for (const int column : {4, 9}) grid.Click(column, 0);
+  EXPECT_EQ(*heard, (std::vector<std::string>{"cell 2,2", "cell 1,3", "click 1,3", "click 1,3",
+                                              "click 4,0"}));
+  EXPECT_EQ(grid.ActiveRow(), 3);
+  const GridDesign no_heads = OneCell(Text(1));
+  Grid headless(no_heads);
+  const auto silence = Listen(headless);
+  headless.Click(1, 0);
+  EXPECT_TRUE(silence->empty());
+}
+
+TEST(GridTest, NotificationsMayCallBack) {
+  Grid grid(kForm);
+  grid.on_change = [&grid](int column, int row) {
+    grid.SetMaxRows(row);
+    grid.SetText(column, row, "");
+  };
+  EXPECT_TRUE(grid.Type(2, 2, "4").taken);
+  EXPECT_EQ(grid.GetText(2, 2), "");
+  EXPECT_EQ(grid.MaxRows(), 2);
+}
+
+TEST(GridTest, RowsComeEmptyUnderTheRulesAndGoFromTheEnd) {
+  Grid grid(kForm);
+  grid.SetText(2, 3, "5");
+  grid.SetText(2, 1, "1");
+  grid.SetActiveCell(2, 4);
+  grid.SetMaxRows(6);
+  EXPECT_TRUE(grid.Type(2, 6, "3").taken) << "a rule reaches further than the rows did";
+  EXPECT_FALSE(grid.Type(4, 6, "x").taken);
+  EXPECT_EQ(grid.GetText(5, 4), "9");
+  grid.SetMaxRows(5);
+  EXPECT_EQ(grid.GetText(5, 4), "6") << "what a dropped row held is gone";
+  grid.SetMaxRows(2);
+  EXPECT_EQ(grid.ActiveRow(), 2);
+  EXPECT_FALSE(grid.Has(1, 3));
+  grid.SetMaxRows(4);
+  EXPECT_EQ(grid.GetText(2, 3), "");
+  EXPECT_EQ(grid.GetText(5, 4), "1") << "a total that came with its row";
+  grid.SetMaxRows(0);
+  EXPECT_FALSE(grid.NextOpenCell({1, 1}) || grid.PreviousOpenCell({1, 1}));
+}
+
+TEST(GridTest, ResetGoesBackToTheDesignAndKeepsWhoListens) {
+  Grid grid(kForm);
+  const auto heard = Listen(grid);
+  const std::function<void()> changes[] = {
+      [&] { grid.SetText(1, 1, ""); },     [&] { grid.SetText(2, 1, "8"); },
+      [&] { grid.SetLock(2, 2, true); },   [&] { grid.SetBackColor(2, 2, kRed); },
+      [&] { grid.SetRowHidden(2, true); }, [&] { grid.SetActiveCell(2, 2); },
+      [&] { grid.SetMaxRows(9); },         [&] { grid.Reset(); }};
+  for (const auto& change : changes) {
+    const auto revision = grid.revision();
+    change();
+    EXPECT_GT(grid.revision(), revision);
+  }
+  EXPECT_EQ(grid.GetText(1, 1), "1.1");
+  EXPECT_EQ(grid.GetText(5, 4), "");
+  EXPECT_EQ(grid.BackColor(2, 2), kWhite);
+  EXPECT_EQ(grid.ActiveColumn(), 1);
+  EXPECT_EQ(grid.MaxRows(), 4);
+  EXPECT_TRUE(grid.Type(2, 2, "1").taken);
+  EXPECT_EQ(*heard, std::vector<std::string>{"change 2,2"});
+}
+
+}  // namespace
+}  // namespace survey

@@ -1,0 +1,115 @@
+// Sums that a grid holds by itself.
+
+#include <gtest/gtest.h>
+
+#include "grid/test_designs.h"
+
+namespace survey {
+namespace {
+
+// A body of 3 x 3 from (2,2), with row totals in column 5, column totals in row 5 and their grand
+// total, which adds the row totals.
+GridDesign Totalled(CellKind kind) {
+  return {.columns = 5,
+          .rows = 5,
+          .column_widths = std::vector<int>(5, 1000),
+          .rules = {{{2, 2, 5, 5}, kind, false}, {{2, 2, 4, 4}, kind}, {{5, 3}, kind}},
+          .totals = {{{5, 2, 5, 4}, {{2, 2, 4, 2}}},
+                     {{2, 5, 4, 5}, {{2, 2, 2, 4}}},
+                     {{5, 5}, {{5, 2, 5, 4}}}}};
+}
+
+TEST(TotalTest, FollowsWhatItAddsThroughOtherTotals) {
+  const GridDesign design = Totalled(Number(0, 99));
+  Grid grid(design);
+  EXPECT_EQ(grid.GetText(5, 5), "") << "empty while all it adds is empty";
+  grid.Type(3, 3, "0");
+  for (const Cell total : {Cell{5, 3}, {3, 5}, {5, 5}}) {
+    EXPECT_EQ(grid.GetText(total.column, total.row), "0");
+  }
+  EXPECT_EQ(grid.GetText(5, 2), "") << "another row";
+  for (int row = 2; row <= 4; ++row) {
+    for (int column = 2; column <= 4; ++column) grid.SetText(column, row, column * 10.0 + row);
+  }
+  EXPECT_EQ(grid.GetText(5, 2), "96");
+  EXPECT_EQ(grid.GetText(4, 5), "129") << "may be more than its own limit";
+  EXPECT_EQ(grid.GetInteger(5, 5), 297);
+  grid.Type(4, 4, "");
+  EXPECT_EQ(grid.GetText(5, 5), "253");
+  grid.SetText(5, 2, "1000");
+  grid.ClearRange(5, 2, 9, 9);
+  EXPECT_EQ(grid.GetText(5, 2), "96") << "clearing a block leaves its formulas";
+  grid.ClearRange(-1, 2, 9, 9);
+  EXPECT_EQ(grid.GetText(5, 5), "");
+}
+
+TEST(TotalTest, ATextOverATotalShowsUntilOneOfItsCellsIsWritten) {
+  const GridDesign design = Totalled(Number(0, 99));
+  Grid grid(design);
+  grid.SetText(2, 2, "1");
+  grid.SetText(5, 2, "50");
+  EXPECT_EQ(grid.GetText(5, 5), "50") << "the grand total adds what the total shows";
+  grid.SetText(5, 5, "7");
+  grid.SetBackColor(2, 2, kYellow);
+  EXPECT_EQ(grid.GetText(5, 5), "7");
+  grid.SetText(3, 3, "2");  // computes the grand total, not the total of the other row
+  EXPECT_EQ(grid.GetText(5, 2), "50");
+  EXPECT_EQ(grid.GetText(5, 5), "52");
+  grid.SetText(2, 2, "1");  // the same again, as when a page is read anew
+  EXPECT_EQ(grid.GetText(5, 2), "1");
+  // Stale and not read yet, written over, and stale once more.
+  grid.SetText(2, 2, "4");
+  grid.SetText(5, 5, "7");
+  grid.SetText(2, 2, "5");
+  EXPECT_EQ(grid.GetText(5, 5), "7") << "5 + 2";
+  grid.SetText(2, 2, "6");
+  EXPECT_EQ(grid.GetText(5, 5), "8");
+}
+
+TEST(TotalTest, AddsNumbersOnlyAndRoundsToItsDecimals) {
+  const GridDesign design = Totalled(Number(-9999999.99, 9999999.99, 3));
+  Grid grid(design);
+  const std::pair<std::vector<std::string>, std::string> cases[] = {
+      {{"0.1", "0.2", ""}, "0.3"},
+      {{"1.235", "1.1", "1.005"}, "3.34"},
+      {{"0.1", "0.2", "-0.3"}, "0"},
+      {{"9999999.99", "9999999.99", "0.001"}, "19999999.981"},
+      {{" ", "", ""}, ""},  // a blank that the design stores
+      {{"2D Design", "Management", ""}, ""},
+      {{"2D Design", "-4", std::string(400, '9')}, "-4"}};
+  for (const auto& [texts, sum] : cases) {
+    for (int i = 0; i < 3; ++i) grid.SetText(2 + i, 2, texts[i]);
+    EXPECT_EQ(grid.GetText(5, 2), sum) << texts[0];
+  }
+}
+
+TEST(TotalTest, BlocksMoveAlongAndMayBeSingleCells) {
+  const GridDesign design{.columns = 6,
+                          .rows = 3,
+                          .column_widths = std::vector<int>(6, 1000),
+                          .totals = {{{5, 1, 6, 2}, {{1, 1}, {3, 1}}}, {{1, 3}, {{5, 1, 9, 9}}}}};
+  Grid grid(design);
+  for (int row = 1; row <= 2; ++row) {
+    for (int column = 1; column <= 4; ++column) grid.SetInteger(column, row, column * row);
+  }
+  EXPECT_EQ(grid.GetText(5, 1), "4");
+  EXPECT_EQ(grid.GetText(6, 2), "12");
+  EXPECT_EQ(grid.GetText(1, 3), "30");
+}
+
+TEST(TotalTest, AnOpenTotalTakesTyping) {
+  const GridDesign design = Totalled(Number(0, 99));
+  Grid grid(design);
+  const auto heard = Listen(grid);
+  EXPECT_EQ(grid.Type(5, 2, "9").reason,
+            "This cell is a total, which the table adds up by itself.");
+  EXPECT_FALSE(grid.Type(5, 3, "100").taken);
+  EXPECT_TRUE(grid.Type(5, 3, "9").taken);
+  EXPECT_EQ(grid.GetText(5, 5), "9");
+  grid.Type(2, 3, "1");
+  EXPECT_EQ(grid.GetText(5, 3), "1");
+  EXPECT_EQ(*heard, (std::vector<std::string>{"change 5,3", "change 2,3"}));
+}
+
+}  // namespace
+}  // namespace survey
