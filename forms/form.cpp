@@ -1,0 +1,93 @@
+#include "forms/form.h"
+
+#include <stdexcept>
+
+#include "forms/page_chain.h"
+#include "store/text.h"
+
+namespace survey {
+
+Form::Form(Forms& forms, std::string name, std::string caption)
+    : Caption(caption),
+      forms_(forms),
+      name_(std::move(name)),
+      design_caption_(std::move(caption)) {}
+
+Control& Form::FindControl(std::string_view name, int index) const {
+  for (Control* control : controls_) {
+    if (control->name() == name && control->index() == index) return *control;
+  }
+  throw std::out_of_range(name_ + " has no control " + std::string(name));
+}
+
+Control* Form::TakeFocusRequest() {
+  Control* control = focus_request_;
+  focus_request_ = nullptr;
+  return control;
+}
+
+void Form::Load() {
+  for (Control* control : controls_) control->Reset();
+  Caption = design_caption_;
+  focus_request_ = nullptr;
+  loaded_ = true;
+  Form_Load();
+}
+
+void Form::OnUntrappedFailure(const RunTimeError& failure) {
+  boxes().PlainBox("Run-time error '" + NumberText(failure.number()) + "':\n\n" + failure.what());
+  forms_.UnloadAll();
+}
+
+bool Form::CanShow(std::string_view target) {
+  if (forms_.IsBuilt(std::string(target))) return true;
+  boxes().PlainBox("This part of the survey is not in the program yet.");
+  return false;
+}
+
+void Form::FollowLink(const Button& button, const Button* cmdSave) {
+  const Link* link = FindLink(name_, button.name());
+  if (link == nullptr) throw std::out_of_range(name_ + " has no link at " + button.name());
+  if (!CanShow(link->target)) return;
+  if (link->guard == Guard::kConfirmUnsaved && !forms_.ConfirmUnsaved(*cmdSave, *this)) return;
+  const std::string target(link->target);
+  if (link->passes != Passes::kNothing) forms_.Get(target).EducatorId = EducatorId;
+  if (link->passes == Passes::kEducatorIdAndEmisNumber) {
+    forms_.Get(target).EmisNumber = EmisNumber;
+  }
+  const bool unload_first = link->leaving == Leaving::kUnloadThenShow;
+  if (unload_first) forms_.Unload(*this);
+  if (link->leaving != Leaving::kUnloadOnly) forms_.Show(target);
+  if (!unload_first && link->leaving != Leaving::kStays) forms_.Unload(*this);
+}
+
+bool Form::Trap(const ErrorName& name, const std::function<void()>& body) {
+  return Try(body, [&](const RunTimeError& failure) {
+    boxes().ReportError(name.location, failure.what(), name.procedure, failure.number());
+  });
+}
+
+bool Form::TrapSilently(const std::function<void()>& body) {
+  return Try(body, [](const RunTimeError&) {});
+}
+
+bool Form::Try(const std::function<void()>& body,
+               const std::function<void(const RunTimeError&)>& tell) {
+  try {
+    body();
+    survey().EndStatements();
+    return true;
+  } catch (const RunTimeError& failure) {
+    // What was done before the failure stays done; if even that cannot be committed, the user
+    // hears of it too.
+    try {
+      survey().EndStatements();
+    } catch (const RunTimeError& commit_failure) {
+      tell(commit_failure);
+    }
+    tell(failure);
+    return false;
+  }
+}
+
+}  // namespace survey

@@ -1,0 +1,98 @@
+#ifndef FORMS_FORM_H_
+#define FORMS_FORM_H_
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/controls.h"
+#include "forms/forms.h"
+#include "forms/layout.h"
+#include "store/run_time_error.h"
+
+namespace survey {
+
+// What the error box names as the place of a failure. The texts outlive the program.
+struct ErrorName {
+  const char* location = "";
+  const char* procedure = "";
+};
+
+// A window of the program. One instance a run, made on first use; it outlives its unloading, its
+// public properties with it, while its controls return to their design at each load.
+class Form {
+ public:
+  Form(Forms& forms, std::string name, std::string caption);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& name() const { return name_; }
+  bool loaded() const { return loaded_; }
+  std::string Caption;
+
+  // Properties that others set before they show the form.
+  std::string EducatorId;  // ID number of the staff member in hand
+  double EmisNumber = 0;   // college EMIS number handed on between staff pages
+  std::string FormMode;    // "New" or "Edit" of a staff record
+  std::string EditMode;    // "Add" or "Edit" of a site
+
+  const std::vector<Control*>& controls() const { return controls_; }
+  // The control (or grid) of that name and index; throws std::out_of_range where there is none.
+  template <typename Kind>
+  Kind& Find(std::string_view name, int index = kNoIndex) const {
+    return dynamic_cast<Kind&>(FindControl(name, index));
+  }
+  // Arrangement of the controls; made anew at each call.
+  virtual Layout Arrange() = 0;
+
+  // Runs when the form has come to the front; printing calls it on a form that is not shown.
+  virtual void Form_Activate() {}
+
+  // The control that code gave the focus to since the view last asked; null for none.
+  Control* TakeFocusRequest();
+
+  Forms& forms() const { return forms_; }
+
+ protected:
+  virtual void Form_Load() {}
+  virtual void Form_Unload() {}
+  // A failure that no handler of the form trapped. Tells it and ends the program, unless a form
+  // knows better.
+  virtual void OnUntrappedFailure(const RunTimeError& failure);
+
+  Survey& survey() const { return forms_.survey(); }
+  MessageBoxes& boxes() const { return forms_.boxes(); }
+
+  // Runs `body` and commits what it wrote; a failure of either is reported under `name`, and
+  // the handler goes on behind it. False after a failure.
+  bool Trap(const ErrorName& name, const std::function<void()>& body);
+  // The same without a word.
+  bool TrapSilently(const std::function<void()>& body);
+  // Goes where the page chain says this button leads. `cmdSave` carries the unsaved mark that a
+  // guarded link asks about.
+  void FollowLink(const Button& button, const Button* cmdSave = nullptr);
+  // Whether that form is built; if not, says so.
+  bool CanShow(std::string_view target);
+  void SetFocus(Control& control) { focus_request_ = &control; }
+
+ private:
+  friend class Control;
+  friend class Forms;
+
+  bool Try(const std::function<void()>& body, const std::function<void(const RunTimeError&)>& tell);
+  Control& FindControl(std::string_view name, int index) const;
+  void Load();
+
+  Forms& forms_;
+  std::string name_;
+  std::string design_caption_;
+  std::vector<Control*> controls_;
+  Control* focus_request_ = nullptr;
+  bool loaded_ = false;
+};
+
+}  // namespace survey
+
+#endif  // FORMS_FORM_H_

@@ -1,0 +1,142 @@
+#include "forms/forms.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "forms/form.h"
+
+namespace survey {
+namespace {
+
+// Counts an action in, and out again however it ends.
+class Nested {
+ public:
+  explicit Nested(int& depth) : depth_(depth) { ++depth_; }
+  ~Nested() { --depth_; }
+  Nested(const Nested&) = delete;
+  Nested& operator=(const Nested&) = delete;
+
+ private:
+  int& depth_;
+};
+
+}  // namespace
+
+Forms::Forms(Survey& survey, const Platform& platform)
+    : survey_(survey), platform_(platform), boxes_(survey, platform.dialogs) {
+  survey_.set_error_reporter(
+      [this](std::string_view location, std::string_view description, std::string_view procedure,
+             double number) { boxes_.ReportError(location, description, procedure, number); });
+}
+
+Forms::~Forms() { survey_.set_error_reporter({}); }
+
+void Forms::Register(const std::string& name, Factory factory) {
+  factories_[name] = std::move(factory);
+}
+
+Form& Forms::Get(const std::string& name) {
+  std::unique_ptr<Form>& form = forms_[name];
+  if (!form) form = factories_.at(name)(*this);
+  return *form;
+}
+
+void Forms::Show(const std::string& name) {
+  Form& form = Get(name);
+  if (!form.loaded()) form.Load();
+  std::erase(shown_, &form);
+  shown_.push_back(&form);
+}
+
+void Forms::ShowModal(const std::string& name) {
+  Form& form = Get(name);
+  Show(name);
+  modal_.push_back(&form);
+  activated_ = &form;
+  form.Form_Activate();
+  if (view_ != nullptr) view_->Refresh();
+  if (form.loaded() && view_ != nullptr) view_->RunModal(form);
+  if (ended_) throw ProgramEnded();
+}
+
+void Forms::Unload(Form& form) {
+  if (!form.loaded()) return;
+  form.Form_Unload();
+  form.loaded_ = false;
+  std::erase(shown_, &form);
+  std::erase(modal_, &form);
+  if (activated_ == &form) activated_ = nullptr;
+}
+
+void Forms::UnloadAll() {
+  ended_ = true;
+  while (!shown_.empty()) Unload(*shown_.back());
+}
+
+bool Forms::ConfirmUnsaved(const Button& cmdSave, Form& form) {
+  if (cmdSave.BackColor == kYellow &&
+      boxes_.ExtendedMsgBox(
+          "You have NOT saved your data. Are you sure you want to exit without saving?",
+          kYesNo + kSecondButtonDefault, "Data has NOT been Saved", Picture::kStop,
+          "") == kAnswerNo) {
+    return false;
+  }
+  Unload(form);
+  return true;
+}
+
+void Forms::Dispatch(Form& form, const std::function<void()>& handler) {
+  {
+    const Nested nested(depth_);
+    Guarded(form, handler);
+    if (depth_ == 1) {
+      ActivateFront();
+      if (shown_.empty()) ended_ = true;
+    }
+  }
+  if (view_ != nullptr) view_->Refresh();
+}
+
+void Forms::CloseBox(Form& form) {
+  Dispatch(form, [&] { Unload(form); });
+}
+
+void Forms::Start(const std::string& name) {
+  Dispatch(Get(name), [&] { Show(name); });
+}
+
+bool Forms::IsModal(const Form& form) const {
+  return std::find(modal_.begin(), modal_.end(), &form) != modal_.end();
+}
+
+void Forms::Guarded(Form& form, const std::function<void()>& handler) {
+  try {
+    handler();
+    survey_.EndStatements();
+  } catch (const ProgramEnded&) {
+  } catch (const RunTimeError& failure) {
+    Untrapped(form, failure);
+  }
+}
+
+void Forms::Untrapped(Form& form, const RunTimeError& failure) {
+  try {
+    survey_.EndStatements();
+  } catch (const RunTimeError&) {
+    // Nothing is left to commit after this, and the first failure is the one to tell.
+  }
+  try {
+    form.OnUntrappedFailure(failure);
+  } catch (const ProgramEnded&) {
+  }
+}
+
+void Forms::ActivateFront() {
+  while (!ended_ && Front() != nullptr && Front() != activated_) {
+    Form& front = *Front();
+    activated_ = &front;
+    Guarded(front, [&] { front.Form_Activate(); });
+  }
+}
+
+}  // namespace survey

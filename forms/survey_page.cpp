@@ -1,0 +1,71 @@
+#include "forms/survey_page.h"
+
+#include "printing/page_print.h"
+
+namespace survey {
+
+SurveyPage::SurveyPage(Forms& forms, std::string name, std::string title,
+                       const PageCaptions& captions)
+    : Form(forms, std::move(name), title),
+      cmdNext(*this, "cmdNext", captions.next),
+      cmdPrevious(*this, "cmdPrevious", captions.previous),
+      title_(std::move(title)),
+      rules_(RulesOf(this->name())) {
+  if (captions.menu != nullptr) {
+    cmdMenu.emplace(*this, "cmdMenu", captions.menu);
+    cmdMenu->on_click = [this] { FollowLink(*cmdMenu, &cmdSave); };
+  }
+  cmdNext.on_click = [this] { FollowLink(cmdNext, &cmdSave); };
+  cmdPrevious.on_click = [this] { FollowLink(cmdPrevious, &cmdSave); };
+  cmdSave.on_click = [this] { Save(); };
+  cmdPrintPage.on_click = [this] {
+    Trap(rules_.print, [this] {
+      this->forms().platform().printer.ShowPrinter();
+      Printpage();
+    });
+  };
+}
+
+void SurveyPage::Form_Load() {
+  Caption = survey().SurveyCaption(title_);
+  survey().OpenDatabaseConnection();
+}
+
+void SurveyPage::Form_Activate() {
+  Trap(rules_.activate, [this] {
+    PlaceCursor();
+    GetPage();
+  });
+}
+
+void SurveyPage::Printpage() {
+  const PagePrint& page = PrintOf(name());
+  PrintPage(
+      forms().platform().printer, page, HeadLine(page.head, survey().CampusEmisNumber, EducatorId),
+      [this](std::string_view grid, int index) -> const Grid& { return Find<Grid>(grid, index); });
+}
+
+Layout SurveyPage::Arrange() {
+  std::vector<Layout> buttons = {Place(cmdPrevious), Place(cmdNext)};
+  if (cmdMenu) buttons.push_back(Place(*cmdMenu));
+  buttons.insert(buttons.end(), {Space(), Place(cmdPrintPage), Place(cmdSave)});
+  return ColumnOf({FrameOf(Frame1, Body(), 1),
+                   FrameOf(Frame2, ColumnOf({RowOf(std::move(buttons)),
+                                             RowOf({Place(lblEnter), Space(), Place(lblTab)})}))});
+}
+
+void SurveyPage::MarkChangesOf(GridControl& grid) {
+  grid.on_change = [this](int, int) { MarkUnsaved(); };
+}
+
+void SurveyPage::Save() {
+  if (rules_.mark == MarkCleared::kBeforeSave) cmdSave.BackColor = kButtonFace;
+  bool refused = false;
+  const bool saved = Trap(rules_.save, [&] {
+    refused = !MaySave();
+    if (!refused) SavePage();
+  });
+  if (saved && !refused && rules_.mark == MarkCleared::kAfterSave) cmdSave.BackColor = kButtonFace;
+}
+
+}  // namespace survey

@@ -1,0 +1,73 @@
+#ifndef FORMS_SURVEY_PAGE_H_
+#define FORMS_SURVEY_PAGE_H_
+
+#include <optional>
+#include <string>
+
+#include "forms/form.h"
+#include "forms/page_rules.h"
+
+namespace survey {
+
+// What the buttons of a page read, where it is not the usual.
+struct PageCaptions {
+  const char* next = "Next Page";
+  const char* previous = "Previous Page";
+  const char* menu = "Menu";  // null: the page has no such button
+};
+
+// What all pages of the survey share: the buttons, the unsaved mark (the yellow of Save, and
+// nothing besides), and the way a page opens, saves, prints and is left. What a page does
+// otherwise stands in its own file.
+class SurveyPage : public Form {
+ public:
+  // `title` is handed to SurveyCaption at each load.
+  SurveyPage(Forms& forms, std::string name, std::string title, const PageCaptions& captions = {});
+
+  // Fills the page from the store, under the page's trap.
+  void Form_Activate() override;
+
+  // Prints what is on screen, saved or not, as one job. Throws RunTimeError.
+  virtual void Printpage();
+
+  Layout Arrange() override;
+
+  Button cmdSave{*this, "cmdSave", "Save"};
+  Button cmdPrintPage{*this, "cmdPrintPage", "Print Page"};
+  Button cmdNext;
+  Button cmdPrevious;
+  std::optional<Button> cmdMenu;
+  Label lblEnter{*this, "lblEnter", "ENTER to move between cells on grids"};
+  Label lblTab{*this, "lblTab", "TAB button to move between controls"};
+  Frame Frame1{*this, "Frame1"};
+  Frame Frame2{*this, "Frame2"};
+
+ protected:
+  // Caption and connection.
+  void Form_Load() override;
+
+  // The part of the page above its buttons.
+  virtual Layout Body() = 0;
+  // Places the cursor on the first input cell.
+  virtual void PlaceCursor() {}
+  virtual void GetPage() = 0;
+  virtual void SavePage() = 0;
+  // Tests that stand before the save; says itself what is missing. After false nothing is saved
+  // and the mark stays.
+  virtual bool MaySave() { return true; }
+
+  void MarkUnsaved() { cmdSave.BackColor = kYellow; }
+  // A change of the user's in this grid sets the unsaved mark.
+  void MarkChangesOf(GridControl& grid);
+  const PageRules& rules() const { return rules_; }
+
+ private:
+  void Save();
+
+  std::string title_;
+  const PageRules& rules_;
+};
+
+}  // namespace survey
+
+#endif  // FORMS_SURVEY_PAGE_H_

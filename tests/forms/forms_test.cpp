@@ -1,0 +1,260 @@
+#include "forms/forms.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "forms/page_chain.h"
+#include "support/world.h"
+
+namespace survey::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+std::vector<std::string> events;  // of all probes, in order
+
+// A form that tells what happens to it, and does what a test wants.
+class Probe : public Form {
+ public:
+  Probe(Forms& forms, const std::string& name) : Form(forms, name, name + " caption") {
+    cmdDo.on_click = [this] {
+      if (act) act(*this);
+    };
+    chk.on_click = [this] { events.push_back(this->name() + " check"); };
+    opt1.on_click = [this] { events.push_back(this->name() + " one"); };
+    opt2.on_click = [this] { events.push_back(this->name() + " two"); };
+    cbo.on_click = [this] { events.push_back(this->name() + " combo " + cbo.Text()); };
+  }
+  Layout Arrange() override { return Place(cmdDo); }
+  void Form_Activate() override {
+    events.push_back(name() + " activate");
+    if (activate) activate();
+  }
+
+  Button cmdDo{*this, "cmdDo", "Do"};
+  Button cmdSave{*this, "cmdSave", "Save"};
+  CheckBox chk{*this, "chk", "Check"};
+  OptionButton opt1{*this, "opt", "One", "group", 1};
+  OptionButton opt2{*this, "opt", "Two", "group", 2};
+  TextBox txt{*this, "txt", "Text"};
+  ComboBox cbo{*this, "cbo", "Combo"};
+  std::function<void(Probe&)> act;
+  std::function<void()> activate;
+  using Form::Trap;
+  using Form::TrapSilently;
+
+ protected:
+  void Form_Load() override { events.push_back(name() + " load"); }
+  void Form_Unload() override { events.push_back(name() + " unload"); }
+};
+
+class Host : public World, public ::testing::Test {
+ protected:
+  Host() {
+    events.clear();
+    for (const char* name : {"A", "B", "M"}) {
+      forms.Register(name, [name](Forms& host) { return std::make_unique<Probe>(host, name); });
+    }
+  }
+  Probe& P(const std::string& name) { return dynamic_cast<Probe&>(forms.Get(name)); }
+  void Do(const std::string& name, std::function<void(Probe&)> act) {
+    P(name).act = std::move(act);
+    Click(name, "cmdDo");
+  }
+};
+
+TEST_F(Host, AFormIsActivatedOnceTheHandlerThatShowedItHasEnded) {
+  forms.Start("A");
+  Do("A", [this](Probe& a) {
+    forms.Show("B");
+    forms.Unload(a);
+    events.push_back("handler ends");
+  });
+  EXPECT_THAT(events, ElementsAre("A load", "A activate", "B load", "A unload", "handler ends",
+                                  "B activate"));
+  forms.CloseBox(P("B"));
+  EXPECT_TRUE(forms.Ended());
+}
+
+TEST_F(Host, AModalFormStopsItsCallerAndActivatesTheFormBeneathWhenItCloses) {
+  forms.Start("A");
+  events.clear();
+  modal_scripts.push_back([this](Form& modal) {
+    EXPECT_TRUE(forms.IsModal(modal));
+    dialogs.answers = {kAnswerYes};
+    EXPECT_TRUE(forms.boxes().UserQuestion("?"));  // a box activates nothing
+    forms.CloseBox(modal);
+  });
+  Do("A", [this](Probe&) {
+    forms.ShowModal("M");
+    events.push_back("goes on");
+  });
+  EXPECT_THAT(events, ElementsAre("M load", "M activate", "M unload", "goes on", "A activate"));
+}
+
+TEST_F(Host, ControlsReturnToTheirDesignAtEachLoadAndPropertiesStay) {
+  forms.Start("A");
+  Probe& a = P("A");
+  Do("A", [](Probe& form) {
+    form.cmdSave.BackColor = kYellow;
+    form.txt.Text = "typed";
+    form.chk.SetValue(true);
+    form.cbo.AddItem("item", 1);
+    form.cmdSave.Enabled = false;
+    form.Caption = "other";
+    form.EducatorId = "123";
+  });
+  forms.Unload(a);
+  forms.Show("A");
+  EXPECT_EQ(a.cmdSave.BackColor, kButtonFace);
+  EXPECT_EQ(a.txt.Text, "");
+  EXPECT_FALSE(a.chk.Value());
+  EXPECT_THAT(a.cbo.items(), IsEmpty());
+  EXPECT_TRUE(a.cmdSave.Enabled);
+  EXPECT_EQ(a.Caption, "A caption");
+  EXPECT_EQ(a.EducatorId, "123");
+}
+
+TEST_F(Host, CodeThatChangesAChoiceRaisesItsClick) {
+  forms.Start("A");
+  events.clear();
+  Do("A", [](Probe& a) {
+    a.chk.SetValue(true);
+    a.chk.SetValue(true);  // no change, no click
+    a.opt1.SetValue(true);
+    a.opt2.SetValue(true);  // takes opt1 back without a click
+    a.cbo.AddItem("item", 1);
+    a.cbo.SetListIndex(0);
+    a.cbo.SetText("other");
+  });
+  EXPECT_THAT(events, ElementsAre("A check", "A one", "A two", "A combo item"));
+  EXPECT_FALSE(P("A").opt1.Value());
+  EXPECT_EQ(P("A").cbo.ListIndex(), -1);
+}
+
+TEST_F(Host, HiddenAndDisabledControlsTakeNothingFromTheUser) {
+  forms.Start("A");
+  Probe& a = P("A");
+  a.chk.Enabled = false;
+  a.chk.Click();
+  a.txt.Locked = true;
+  a.txt.Enter("x");
+  EXPECT_FALSE(a.chk.Value());
+  EXPECT_EQ(a.txt.Text, "");
+  a.txt.Locked = false;
+  a.txt.takes_key = [](char32_t key) { return key >= '0' && key <= '9'; };
+  a.txt.Enter("1é2 3");
+  EXPECT_EQ(a.txt.Text, "123");
+}
+
+TEST_F(Host, AHandlersWritesAreOneCommitAndSurviveItsFailure) {
+  OpenSite(1, 2);
+  forms.Start("A");
+  Do("A", [this](Probe& a) {
+    const bool done = a.Trap({"place", "routine"}, [this] {
+      survey.Execute("insert into tbl_SETAAccreditation(SETAID)values(1)");
+      EXPECT_THAT(Query("select SETAID as r from tbl_SETAAccreditation"), IsEmpty());
+      survey.Execute("insert into tbl_Nowhere(SETAID)values(2)");
+    });
+    EXPECT_FALSE(done);
+    // The box was shown after the commit, and the handler goes on.
+    EXPECT_THAT(Query("select SETAID as r from tbl_SETAAccreditation"), ElementsAre("1"));
+  });
+  ASSERT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_EQ(dialogs.seen[0].title, "Error : 1");
+  EXPECT_EQ(dialogs.seen[0].prompt,
+            "Error Description: no such table: tbl_Nowhere\r\nLocation: place\r\n"
+            "Procedure: routine");
+  EXPECT_EQ(dialogs.seen[0].picture, Picture::kError);
+  EXPECT_EQ(dialogs.seen[0].type, kInformationIcon);
+}
+
+TEST_F(Host, AFailureThatNobodyTrapsIsToldAndEndsTheProgram) {
+  OpenSite(1, 2);
+  forms.Start("A");
+  Do("A", [this](Probe&) {
+    survey.Execute("insert into tbl_SETAAccreditation(SETAID)values(1)");
+    throw Overflow();
+  });
+  EXPECT_EQ(LastBox(), "Run-time error '6':\n\nOverflow");
+  EXPECT_TRUE(forms.Ended());
+  EXPECT_THAT(Query("select SETAID as r from tbl_SETAAccreditation"), ElementsAre("1"));
+}
+
+TEST_F(Host, AFailingActivationIsThatFormsOwn) {
+  forms.Start("A");
+  P("B").activate = [] { throw TypeMismatch(); };
+  Do("A", [this](Probe&) { forms.Show("B"); });
+  EXPECT_EQ(LastBox(), "Run-time error '13':\n\nType mismatch");
+}
+
+TEST_F(Host, BoxesHaveTheirCaptionPictureAndDefault) {
+  struct Case {
+    std::function<void(MessageBoxes&)> show;
+    std::string title;
+    Picture picture;
+    int type;
+  };
+  const std::vector<Case> cases = {
+      {[](auto& b) { b.UserMessage("text"); }, "User Message", Picture::kMessage, 0x40},
+      {[](auto& b) { EXPECT_FALSE(b.UserQuestion("text")); }, "User Question?", Picture::kQuestion,
+       260 + 0x40},
+      {[](auto& b) { EXPECT_FALSE(b.UserWarning("text")); }, "User Warning", Picture::kStop,
+       260 + 0x40},
+      {[](auto& b) { b.PlainBox("text"); }, "Corvale Annual Survey", Picture::kNone, 0},
+      // With neither picture nor cursor the type goes through; a cursor changes it like a picture.
+      {[](auto& b) { b.ExtendedMsgBox("text", 0x34, "t", Picture::kNone, ""); }, "t",
+       Picture::kNone, 0x34},
+      {[](auto& b) { b.ExtendedMsgBox("text", 0x134, "t", Picture::kNone, "x.ani"); }, "t",
+       Picture::kNone, 0x144},
+  };
+  for (const Case& c : cases) {
+    c.show(forms.boxes());
+    const MessageBox& box = dialogs.seen.back();
+    EXPECT_EQ(box.title, c.title);
+    EXPECT_EQ(box.picture, c.picture) << c.title;
+    EXPECT_EQ(box.type, c.type) << c.title;
+    EXPECT_EQ(box.prompt, "text");
+  }
+}
+
+TEST_F(Host, ConfirmUnsavedReadsTheColourAndStaysAfterNo) {
+  forms.Start("A");
+  forms.Show("B");
+  Probe& a = P("A");
+  a.cmdSave.BackColor = kYellow;
+  EXPECT_FALSE(forms.ConfirmUnsaved(a.cmdSave, a));
+  EXPECT_TRUE(a.loaded());
+  ASSERT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_EQ(dialogs.seen[0].title, "Data has NOT been Saved");
+  EXPECT_EQ(dialogs.seen[0].picture, Picture::kStop);
+  EXPECT_EQ(LastBox(),
+            "You have NOT saved your data. Are you sure you want to exit without saving?");
+  dialogs.answers = {kAnswerYes};
+  EXPECT_TRUE(forms.ConfirmUnsaved(a.cmdSave, a));
+  EXPECT_FALSE(a.loaded());
+  forms.Show("A");
+  dialogs.seen.clear();
+  EXPECT_TRUE(forms.ConfirmUnsaved(a.cmdSave, a));
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+}
+
+// Whoever goes on from a page must be able to come back to it.
+TEST(PageChainTest, PreviousIsTheWayBackOfNext) {
+  std::string page = "frmPage2";
+  int pages = 1;
+  while (page != "frmSelectEducator") {
+    const Link* next = FindLink(page, "cmdNext");
+    ASSERT_NE(next, nullptr) << page;
+    const Link* back = FindLink(next->target, "cmdPrevious");
+    ASSERT_NE(back, nullptr) << next->target;
+    EXPECT_EQ(back->target, page);
+    page = next->target;
+    ++pages;
+  }
+  EXPECT_EQ(pages, 18);
+}
+
+}  // namespace
+}  // namespace survey::testing
