@@ -1,0 +1,45 @@
+#include "shell/frmDatabase.h"
+
+#include "store/text.h"
+
+namespace survey {
+
+FrmDatabase::FrmDatabase(Forms& forms)
+    : Form(forms, "frmDatabase", "Create New Database"),
+      data_folder_(forms.platform().program_folder.Path()) {
+  cmdOk.on_click = [this] { Ok(); };
+  cmdCancel.on_click = [this] { this->forms().UnloadAll(); };
+}
+
+Layout FrmDatabase::Arrange() {
+  return ColumnOf({FrameOf(fraName, RowOf({Place(lblName), Place(txtDatabaseName, 1)})),
+                   RowOf({Space(), Place(cmdOk), Place(cmdCancel)})});
+}
+
+bool FrmDatabase::ValidateDatabaseName() {
+  if (!Trim(txtDatabaseName.Text).empty()) return true;
+  boxes().PlainBox("Please enter a Database name.");
+  SetFocus(txtDatabaseName);
+  return false;
+}
+
+void FrmDatabase::Ok() {
+  survey().ChosenDatabaseName = txtDatabaseName.Text;
+  if (!ValidateDatabaseName()) return;
+  const std::string name = Trim(txtDatabaseName.Text);
+  data_folder_.MakeSure();
+  if (data_folder_.Look(name) != Found::kNo) {
+    boxes().UserMessage("This database name already exists. Please supply another name.");
+    txtDatabaseName.Text.clear();
+    SetFocus(txtDatabaseName);
+    return;
+  }
+  // A copy that fails is not told here: the next form cannot open the file, and says so.
+  data_folder_.CopyTemplate(name);
+  survey().DatabaseName = name;
+  survey().DatabasePath = data_folder_.PathOf(name);
+  forms().Unload(*this);
+  forms().Unload(forms().Get("frmSelectDatabase"));
+}
+
+}  // namespace survey

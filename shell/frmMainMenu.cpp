@@ -1,0 +1,273 @@
+#include "shell/frmMainMenu.h"
+
+#include "store/recordset.h"
+#include "store/text.h"
+
+namespace survey {
+namespace {
+
+constexpr int kCentralOffice = 1;
+constexpr int kCampusSite = 2;
+
+struct LearnerButton {
+  int index;
+  const char* caption;
+  const char* page;
+};
+
+// The student menu, in the order of the survey's tables, which the indices do not follow.
+constexpr LearnerButton kLearnerButtons[] = {
+    {0, "2.1 - 2.2", "frmPage4"},
+    {4, "2.3 - 2.4", "frmStudentTotal"},
+    {7, "2.5", "frmPage3"},
+    {10, "3.1 - 3.4", "frmPage5"},
+    {14, "3.5 - 3.7", "frmPage6_1"},
+    {1, "3.8", "frmPage8"},
+    {5, "3.9", "frmPage9"},
+    {3, "3.10", "frmPage9_1"},
+    {11, "3.11 - 3.13", "frmOtherProgrammes"},
+    {13, "3.14", "frmPage12_1"},
+    {2, "3.15", "frmPage12_2"},
+    {6, "3.16", "frmPage9_10"},
+    {8, "3.17", "frmPage9_10_1"},
+    {9, "3.18", "frmPage14"},
+    {12, "3.19", "frmPage13"},
+};
+
+}  // namespace
+
+FrmMainMenu::FrmMainMenu(Forms& forms) : Form(forms, "frmMainMenu", "Main Menu") {
+  txtColEmis.Locked = txtCamEmis.Locked = true;
+
+  optHO.on_click = [this] { ChooseSiteType(); };
+  optCampus.on_click = [this] { ChooseSiteType(); };
+  cboProvince.on_drop_down = [this] {
+    cboCollege.Clear();
+    EmptyEmisNumbers();
+  };
+  cboProvince.on_click = [this] { TrapSilently([this] { ListColleges(); }); };
+  cboCollege.on_drop_down = [this] { EmptyEmisNumbers(); };
+  cboCollege.on_click = [this] { TrapSilently([this] { ListCampuses(); }); };
+  cboCampus.on_click = [this] { TrapSilently([this] { ShowCampus(); }); };
+  cmdContinue.on_click = [this] { TrapSilently([this] { ClaimSite(); }); };
+
+  cmdGeneral.on_click = [this] { OpenForSite("frmPage2"); };
+  cmdHostel.on_click = [this] { OpenForSite("frmHostels"); };
+  cmdStafffSummary.on_click = [this] { OpenForSite("frmPage4"); };
+  cmdStaff.on_click = [this] { Open("frmSelectEducator"); };
+  cmdPrintSurvey.on_click = [this] { CanShow("the printed survey"); };
+  for (const LearnerButton& row : kLearnerButtons) {
+    cmdLearner.push_back(std::make_unique<Button>(*this, "cmdLearner", row.caption, row.index));
+    cmdLearner.back()->on_click = [this, page = row.page] { Open(page); };
+  }
+  cmdList.on_click = [this] { Open("frmSelectCollege"); };
+  cmdDisclaimer.on_click = [this] { this->forms().ShowModal("frmAbout"); };
+  cmdExit.on_click = [this] { this->forms().UnloadAll(); };
+}
+
+Layout FrmMainMenu::Arrange() {
+  Layout site = ColumnOf({Place(lblSiteType), RowOf({Place(optHO), Place(optCampus), Space()}),
+                          FieldsOf({RowOf({Place(lblProvince), Place(cboProvince, 1)}),
+                                    RowOf({Place(lblCollege), Place(cboCollege, 1)}),
+                                    RowOf({Place(lblCampus), Place(cboCampus, 1)}),
+                                    RowOf({Place(lblColEmis), Place(txtColEmis, 1)}),
+                                    RowOf({Place(lblCamEmis), Place(txtCamEmis, 1)})}),
+                          RowOf({Space(), Place(cmdContinue)})});
+  std::vector<Layout> learner_rows;
+  constexpr int kButtonsInRow = 3;
+  for (std::size_t first = 0; first < cmdLearner.size(); first += kButtonsInRow) {
+    std::vector<Layout> row;
+    for (std::size_t i = first; i < first + kButtonsInRow; ++i) {
+      row.push_back(Place(*cmdLearner[i], 1));
+    }
+    learner_rows.push_back(RowOf(std::move(row)));
+  }
+  learner_rows.push_back(Space());
+  return ColumnOf(
+      {FrameOf(Frame1, std::move(site)),
+       RowOf({FrameOf(Frame4,
+                      ColumnOf({Place(cmdGeneral), Place(cmdHostel), Place(cmdStafffSummary),
+                                Place(cmdStaff), Place(cmdPrintSurvey), Space()}),
+                      1),
+              FrameOf(Frame3, ColumnOf(std::move(learner_rows)), 1)}),
+       FrameOf(Frame2, RowOf({ColumnOf({Place(lblSelectItem), Place(lblSignature)}), Space(),
+                              Place(cmdList)})),
+       RowOf({Place(cmdDisclaimer), Space(), Place(cmdExit)})});
+}
+
+void FrmMainMenu::Form_Load() {
+  survey().OpenDatabaseConnection();
+  LoadProvinces();
+  if (EditMode == "Edit") LoadSiteDetails();
+  survey().SurveyYear = 2012;
+}
+
+void FrmMainMenu::Form_Activate() {
+  survey().OpenDatabaseConnection();
+  if (EditMode == "Add") {
+    Frame1.Caption = "Select a college or campus";
+    ShowMenu(false);
+  } else if (EditMode == "Edit") {
+    ShowMenu(true);
+  }
+}
+
+void FrmMainMenu::ShowMenu(bool visible) {
+  Frame1.Visible = !visible;
+  Frame3.Visible = visible;
+  Frame4.Visible = visible;
+}
+
+// ---- Choosing a site -------------------------------------------------------------------------
+
+void FrmMainMenu::LoadProvinces() {
+  TrapSilently([this] {
+    Recordset provinces;
+    provinces.Open(
+        "Select provinceCD,province from lst_province where provincecd <10 order by province",
+        survey().DatabaseConnection.get());
+    for (; !provinces.Eof(); provinces.MoveNext()) {
+      cboProvince.AddItem(provinces.Field("province").Text(),
+                          ToWholeNumber(provinces.Field("provincecd").Number()));
+    }
+  });
+}
+
+void FrmMainMenu::LoadSiteDetails() {
+  TrapSilently([this] {
+    Recordset site;
+    site.Open(
+        "SELECT tbl_GeneralInformation.CollegeEmisNumber, "
+        "tbl_GeneralInformation.CampusEmisNumber, tbl_GeneralInformation.CollegeName, "
+        "tbl_GeneralInformation.CampusName, tbl_GeneralInformation.SiteType, lst_Province.Province"
+        " FROM tbl_GeneralInformation INNER JOIN lst_Province ON "
+        "tbl_GeneralInformation.ProvinceCD = lst_Province.ProvinceCD"
+        " WHERE tbl_GeneralInformation.CollegeEmisNumber= " +
+            NumberText(survey().CollegeEmisNumber) +
+            "  AND tbl_GeneralInformation.CampusEmisNumber = " +
+            NumberText(survey().CampusEmisNumber),
+        survey().DatabaseConnection.get());
+    if (site.Eof()) return;
+    Frame1.Caption = site.Field("Collegename").Text();
+    cboCollege.SetText(site.Field("Collegename").Text());
+    txtColEmis.Text = site.Field("CollegeEmisNumber").Text();
+    txtCamEmis.Text = site.Field("CampusEmisNumber").Text();
+    cboCampus.SetText(site.Field("Campusname").Text());
+    cboProvince.SetText(site.Field("province").Text());
+    (site.Field("sitetype").Is(kCentralOffice) ? optHO : optCampus).SetValue(true);
+  });
+}
+
+int FrmMainMenu::SiteType() const {
+  if (optHO.Value()) return kCentralOffice;
+  return optCampus.Value() ? kCampusSite : 0;
+}
+
+void FrmMainMenu::EmptyEmisNumbers() {
+  txtColEmis.Text.clear();
+  txtCamEmis.Text.clear();
+}
+
+void FrmMainMenu::ChooseSiteType() {
+  if (EditMode == "Edit") return;
+  cboProvince.SetText("");
+  cboCollege.Clear();
+  cboCampus.Clear();
+  EmptyEmisNumbers();
+}
+
+void FrmMainMenu::ListColleges() {
+  if (SiteType() == 0) {
+    boxes().UserMessage("Please indicate if you are a central office or campus site");
+    return;
+  }
+  if (cboProvince.ListIndex() < 0) return;
+  cboCollege.Clear();
+  Recordset colleges;
+  colleges.Open("Select distinct collegeemisnumber,collegename from lst_college where sitetype = " +
+                    NumberText(SiteType()) + " and provinceCD = " +
+                    NumberText(cboProvince.items()[cboProvince.ListIndex()].item_data),
+                survey().DatabaseConnection.get());
+  for (; !colleges.Eof(); colleges.MoveNext()) {
+    cboCollege.AddItem(colleges.Field("collegename").Text(),
+                       ToWholeNumber(colleges.Field("collegeemisnumber").Number()));
+  }
+}
+
+void FrmMainMenu::ListCampuses() {
+  if (cboCollege.ListIndex() < 0) return;
+  cboCampus.Clear();
+  Recordset campuses;
+  campuses.Open("Select campusemisnumber,campusname from lst_college where collegeemisnumber =  " +
+                    NumberText(cboCollege.items()[cboCollege.ListIndex()].item_data) +
+                    " and sitetype = " + NumberText(optHO.Value() ? kCentralOffice : kCampusSite),
+                survey().DatabaseConnection.get());
+  for (; !campuses.Eof(); campuses.MoveNext()) {
+    cboCampus.AddItem(campuses.Field("campusname").Text(),
+                      ToWholeNumber(campuses.Field("campusemisnumber").Number()));
+  }
+}
+
+void FrmMainMenu::ShowCampus() {
+  if (cboCollege.ListIndex() < 0) {
+    boxes().UserMessage("You must select a college before you can select a site");
+    return;
+  }
+  if (cboCampus.ListIndex() < 0) return;
+  Recordset campus;
+  campus.Open(
+      "Select collegeemisnumber, collegename,campusemisnumber,campusname from lst_college where "
+      "campusemisnumber =  " +
+          NumberText(cboCampus.items()[cboCampus.ListIndex()].item_data),
+      survey().DatabaseConnection.get());
+  if (campus.Eof()) return;
+  txtColEmis.Text = campus.Field("collegeemisnumber").Text();
+  txtCamEmis.Text = campus.Field("CampusEMisnumber").Text();
+  cmdContinue.BackColor = kYellow;
+}
+
+void FrmMainMenu::ClaimSite() {
+  Recordset claimed;
+  claimed.Open("Select * from tbl_Generalinformation where campusemisnumber = " + txtCamEmis.Text +
+                   " and surveyyear = '2012'",
+               survey().DatabaseConnection.get());
+  if (!claimed.Eof()) {
+    boxes().UserMessage(
+        "The campus or college that you have selected already exists in the database. Return to "
+        "the institution list and select the institution for editing.");
+    return;
+  }
+  survey().Execute(
+      "Update tbl_generalinformation set surveyyear = '2012' where campusemisnumber = " +
+      txtCamEmis.Text);
+  survey().EndStatements();
+  survey().CollegeEmisNumber = LeadingNumber(txtColEmis.Text);
+  survey().CampusEmisNumber = LeadingNumber(txtCamEmis.Text);
+  ShowMenu(true);
+  cmdContinue.BackColor = kButtonFace;
+}
+
+bool FrmMainMenu::ValidateSite() {
+  std::string missing;
+  if (cboCollege.Text().empty()) missing = "Please select your college or campus name.";
+  if (cboProvince.Text().empty()) missing = "Please select your province.";
+  if (SiteType() == 0) missing = "Please indicate your site as the central office or a campus.";
+  if (missing.empty()) return true;
+  boxes().UserMessage(missing);
+  SetFocus(cboCollege);
+  return false;
+}
+
+// ---- The menu --------------------------------------------------------------------------------
+
+void FrmMainMenu::Open(const std::string& target) {
+  if (!CanShow(target)) return;
+  forms().Show(target);
+  forms().Unload(*this);
+}
+
+void FrmMainMenu::OpenForSite(const std::string& target) {
+  if (survey().CollegeEmisNumber != 0 && survey().CampusEmisNumber != 0) Open(target);
+}
+
+}  // namespace survey

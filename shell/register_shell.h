@@ -1,0 +1,13 @@
+#ifndef SHELL_REGISTER_SHELL_H_
+#define SHELL_REGISTER_SHELL_H_
+
+#include "forms/forms.h"
+
+namespace survey {
+
+// Makes the forms around the survey pages known to the host.
+void RegisterShell(Forms& forms);
+
+}  // namespace survey
+
+#endif  // SHELL_REGISTER_SHELL_H_

@@ -1,0 +1,271 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "shell/register_shell.h"
+#include "support/world.h"
+
+namespace survey::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+constexpr char kForm[] = "frmSelectDatabase";
+constexpr char kSetting[] = "OSTRELCORVALEANNUALSURVEY/Startup/Database";
+
+class SelectDatabase : public World, public ::testing::Test {
+ protected:
+  SelectDatabase() { RegisterShell(forms); }
+
+  fs::path Data() const { return folder.path() / "Data2012"; }
+  void PutDatabase(const std::string& name) {
+    fs::create_directory(Data());
+    fs::copy_file(TemplateFile(), Data() / name);
+  }
+  void PutFile(const fs::path& path, const std::string& content) {
+    fs::create_directory(path.parent_path());
+    std::ofstream(path, std::ios::binary) << content;
+  }
+  void Start() { forms.Start(kForm); }
+  void Tick(std::string_view box) { The<CheckBox>(kForm, box).Click(); }
+  bool Ticked(std::string_view box) { return The<CheckBox>(kForm, box).Value(); }
+  ListBox& List() { return The<ListBox>(kForm, "lstFiles"); }
+  std::string& Path() { return The<TextBox>(kForm, "txtpath").Text; }
+  bool ContinueIsYellow() { return The<Button>(kForm, "cmdContinue").BackColor == kYellow; }
+  void Continue() { Click(kForm, "cmdContinue"); }
+  void NameNewDatabase(const std::string& name) {
+    modal_scripts.push_back([name](Form& form) {
+      ASSERT_EQ(form.name(), "frmDatabase");
+      form.Find<TextBox>("txtDatabaseName").Enter(name);
+      form.Find<Button>("cmdOk").Click();
+    });
+  }
+};
+
+TEST_F(SelectDatabase, FirstRunMakesTheFolderAndHasNoExistingDatabase) {
+  Start();
+  EXPECT_TRUE(fs::is_directory(Data()));
+  Tick("chkExisting");
+  EXPECT_EQ(LastBox(), "You have no existing databases on this computer.");
+  EXPECT_FALSE(Ticked("chkExisting"));
+}
+
+TEST_F(SelectDatabase, ListsNamesUpToTheFirstPointOfFilesThatEndInSmallMdb) {
+  PutDatabase("North College.mdb");
+  PutDatabase("a.b.mdb");
+  PutDatabase("LOUD.MDB");
+  PutFile(Data() / "notes.txt", "");
+  fs::create_directory(Data() / "folder.mdb");
+  Start();
+  std::vector<std::string> names;
+  for (const ListItem& item : List().items()) names.push_back(item.text);
+  EXPECT_THAT(names, ::testing::UnorderedElementsAre("North College", "a"));
+
+  Tick("chkExisting");
+  List().Choose(names[0] == "a" ? 0 : 1);
+  Continue();
+  EXPECT_EQ(LastBox(),
+            "The database you have selected is not an Corvale database or it no longer exists.");
+  EXPECT_EQ(Front(), kForm);
+  EXPECT_EQ(survey.DatabasePath, "");
+}
+
+TEST_F(SelectDatabase, OptionsExcludeEachOtherAndPaintContinueToTheLetter) {
+  PutDatabase("North.mdb");
+  Start();
+  EXPECT_FALSE(List().Enabled);
+  Tick("chkExisting");
+  EXPECT_TRUE(List().Enabled);
+  EXPECT_FALSE(ContinueIsYellow());
+  List().Choose(0);
+  EXPECT_TRUE(ContinueIsYellow());
+  EXPECT_EQ(survey.ChosenDatabaseName, "North");
+  EXPECT_EQ(forms.Front()->TakeFocusRequest(), &The<Button>(kForm, "cmdContinue"));
+
+  Tick("chkNew");
+  EXPECT_FALSE(Ticked("chkExisting"));
+  EXPECT_EQ(List().ListIndex(), -1);
+  EXPECT_FALSE(List().Enabled);
+  EXPECT_TRUE(ContinueIsYellow());
+  Tick("chNetwork");  // unticking chkNew puts the hint back
+  EXPECT_FALSE(Ticked("chkNew"));
+  EXPECT_FALSE(ContinueIsYellow());
+}
+
+TEST_F(SelectDatabase, ContinueSaysWhatIsMissing) {
+  PutDatabase("North.mdb");
+  Start();
+  Continue();
+  EXPECT_EQ(LastBox(), "Please select a database to continue.");
+  Tick("chkExisting");
+  Continue();
+  EXPECT_EQ(LastBox(), "Please select a database.");
+  EXPECT_EQ(Front(), kForm);
+}
+
+TEST_F(SelectDatabase, AListedDatabaseOpensAndEmptiesTheRememberedPath) {
+  settings.values[kSetting] = "/old/path.mdb";
+  PutDatabase("North.mdb");
+  Start();
+  EXPECT_EQ(Path(), "/old/path.mdb");
+  Tick("chkExisting");
+  List().Choose(0);
+  Continue();
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  EXPECT_EQ(survey.DatabaseName, "North");
+  EXPECT_THAT(settings.written,
+              ElementsAre((folder.path() / "CorvaleAnnualOstrel.mdb").string(), ""));
+}
+
+TEST_F(SelectDatabase, ThePathOfTheLastRunIsUsedWhenNothingIsSelected) {
+  PutDatabase("North.mdb");
+  const std::string path = (Data() / "North.mdb").string();
+  settings.values[kSetting] = path;
+  Start();
+  Tick("chkExisting");
+  Continue();
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  EXPECT_EQ(settings.values[kSetting], path);
+}
+
+TEST_F(SelectDatabase, ATypedNetworkPathGoesThroughUnchecked) {
+  Start();
+  Tick("chNetwork");
+  The<TextBox>(kForm, "txtpath").Enter("/nowhere/x.mdb");
+  Continue();
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  ASSERT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_EQ(dialogs.seen[0].picture, Picture::kError);
+  EXPECT_THAT(dialogs.seen[0].prompt, HasSubstr("\r\nLocation: modDatabaseConnection\r\n"
+                                                "Procedure: Database Access Error"));
+  EXPECT_EQ(settings.values[kSetting], "/nowhere/x.mdb");
+}
+
+TEST_F(SelectDatabase, BrowseTakesAGoodDatabaseAndRefusesAWrongFile) {
+  PutDatabase("North.mdb");
+  PutFile(folder.path() / "letter.mdb", "Dear principal");
+  Start();
+  dialogs.file = (folder.path() / "letter.mdb").string();
+  Click(kForm, "cmdBrowse");
+  EXPECT_EQ(dialogs.filter_seen, "Database Files (*.mdb)|*.mdb");
+  ASSERT_EQ(dialogs.seen.size(), 2u);
+  EXPECT_EQ(dialogs.seen[1].title, "User Message");
+  EXPECT_EQ(LastBox(), "The database you have selected is not the correct database.");
+  EXPECT_EQ(Path(), "");
+
+  dialogs.file = (Data() / "North.mdb").string();
+  Click(kForm, "cmdBrowse");
+  EXPECT_EQ(LastBox(), "");
+  Continue();  // a browsed path does without an option, and is then not remembered
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  EXPECT_EQ(settings.written.back(), "");
+}
+
+TEST_F(SelectDatabase, AWrongFileUnderExistingShowsTwoErrorBoxesBeforeTheMessage) {
+  for (const std::string content : {"", "SQLite format 3", "foreign"}) {
+    fs::remove_all(Data());
+    PutFile(Data() / "bad.mdb", content);
+    forms.Unload(forms.Get(kForm));
+    Start();
+    Tick("chkExisting");
+    List().Choose(0);
+    Continue();
+    ASSERT_EQ(dialogs.seen.size(), 3u) << content;
+    EXPECT_EQ(dialogs.seen[0].prompt, dialogs.seen[1].prompt);
+    EXPECT_THAT(dialogs.seen[0].prompt, HasSubstr("bad.mdb"));
+    EXPECT_EQ(dialogs.seen[2].title, "User Message");
+    EXPECT_EQ(fs::file_size(Data() / "bad.mdb"), content.size());
+    dialogs.seen.clear();
+  }
+}
+
+TEST_F(SelectDatabase, ANewDatabaseIsACopyOfTheTemplate) {
+  Start();
+  Tick("chkNew");
+  NameNewDatabase("  Zinnia Valley ");
+  Continue();
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  EXPECT_EQ(survey.DatabaseName, "Zinnia Valley");
+  EXPECT_EQ(survey.ChosenDatabaseName, "  Zinnia Valley ");
+  EXPECT_EQ(survey.DatabasePath, (Data() / "Zinnia Valley.mdb").string());
+  EXPECT_EQ(fs::file_size(survey.DatabasePath), fs::file_size(TemplateFile()));
+  EXPECT_FALSE(forms.Get(kForm).loaded());
+}
+
+TEST_F(SelectDatabase, NamesOfNewDatabasesAreRefused) {
+  PutDatabase("North.mdb");
+  Start();
+  Tick("chkNew");
+  modal_scripts.push_back([this](Form& form) {
+    auto& name = form.Find<TextBox>("txtDatabaseName");
+    const auto try_name = [&](const std::string& text) {
+      name.Enter(text);
+      form.Find<Button>("cmdOk").Click();
+    };
+    try_name("   ");
+    EXPECT_EQ(dialogs.seen.back().picture, Picture::kNone);
+    EXPECT_EQ(dialogs.seen.back().title, "Corvale Annual Survey");
+    EXPECT_EQ(LastBox(), "Please enter a Database name.");
+    EXPECT_EQ(name.Text, "   ");
+    for (const char* taken : {"North", "../outside", "sub/name"}) {
+      try_name(taken);
+      EXPECT_EQ(LastBox(), "This database name already exists. Please supply another name.");
+      EXPECT_EQ(name.Text, "");
+    }
+  });
+  Continue();  // the dialog's window is closed in the end
+  EXPECT_EQ(LastBox(), "Please select a database to continue.");
+  EXPECT_TRUE(forms.Ended());
+  EXPECT_FALSE(fs::exists(folder.path() / "outside.mdb"));
+}
+
+TEST_F(SelectDatabase, ExitOfTheNewDatabaseDialogEndsTheProgramAtOnce) {
+  Start();
+  Tick("chkNew");
+  modal_scripts.push_back([](Form& form) { form.Find<Button>("cmdCancel").Click(); });
+  Continue();
+  EXPECT_TRUE(forms.Ended());
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  EXPECT_THAT(settings.written, IsEmpty());
+}
+
+TEST_F(SelectDatabase, AMissingTemplateShowsOnTheSiteList) {
+  fs::remove(folder.path() / "CorvaleAnnualOstrel2012.mdb");
+  Start();
+  Tick("chkNew");
+  NameNewDatabase("Zinnia");
+  Continue();
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  ASSERT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_EQ(dialogs.seen[0].picture, Picture::kError);
+  EXPECT_FALSE(fs::exists(Data() / "Zinnia.mdb"));
+}
+
+TEST_F(SelectDatabase, AboutTellsTheDisclaimerAndSystemInformationIsOptional) {
+  Start();
+  modal_scripts.push_back([this](Form& form) {
+    EXPECT_EQ(form.Caption, "About Corvale Annual Survey");
+    EXPECT_THAT(form.Find<Label>("lblDisclaimer").Caption,
+                ::testing::StartsWith("This product is supplied free of charge by the Ostrel."));
+    form.Find<Button>("cmdSysInfo").Click();
+    EXPECT_EQ(LastBox(), "System Information Is Unavailable At This Time");
+    program_folder.has_system_information = true;
+    form.Find<Button>("cmdSysInfo").Click();
+    EXPECT_EQ(LastBox(), "");
+    form.Find<Button>("cmdOK").Click();
+    EXPECT_FALSE(form.loaded());
+  });
+  Click(kForm, "cmdAbout");
+  EXPECT_EQ(Front(), kForm);
+  Click(kForm, "cmdExit");
+  EXPECT_TRUE(forms.Ended());
+}
+
+}  // namespace
+}  // namespace survey::testing
