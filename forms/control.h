@@ -39,7 +39,8 @@ class Control {
 
  protected:
   bool TakesInput() const;
-  void Dispatch(const std::function<void()>& handler) const;
+  // Runs the form's handler of an event, "Click".
+  void Dispatch(const char* event, const std::function<void()>& handler) const;
 
  private:
   Form& form_;

@@ -61,11 +61,11 @@ void Button::Reset() {
 }
 
 void Button::Click() {
-  if (TakesInput()) Dispatch([this] { Call(on_click); });
+  if (TakesInput()) Dispatch("Click", [this] { Call(on_click); });
 }
 
 void Button::KeyDown() {
-  if (TakesInput() && on_key_down) Dispatch([this] { on_key_down(); });
+  if (TakesInput() && on_key_down) Dispatch("KeyDown", [this] { on_key_down(); });
 }
 
 // ---- CheckBox, OptionButton ----------------------------------------------------------------
@@ -85,7 +85,7 @@ void CheckBox::SetValue(bool value) {
 }
 
 void CheckBox::Click() {
-  if (TakesInput()) Dispatch([this] { SetValue(!value_); });
+  if (TakesInput()) Dispatch("Click", [this] { SetValue(!value_); });
 }
 
 OptionButton::OptionButton(Form& form, std::string name, std::string caption, std::string group,
@@ -111,7 +111,7 @@ void OptionButton::SetValue(bool value) {
 }
 
 void OptionButton::Click() {
-  if (TakesInput()) Dispatch([this] { SetValue(true); });
+  if (TakesInput()) Dispatch("Click", [this] { SetValue(true); });
 }
 
 // ---- TextBox -------------------------------------------------------------------------------
@@ -130,14 +130,14 @@ void TextBox::Enter(std::string_view text) {
   if (!TakesInput() || Locked) return;
   const std::string taken = takes_key ? KeepCharacters(text, takes_key) : std::string(text);
   if (taken == Text) return;
-  Dispatch([&] {
+  Dispatch("Change", [&] {
     Text = taken;
     Call(on_change);
   });
 }
 
 void TextBox::KeyDown() {
-  if (TakesInput() && on_key_down) Dispatch([this] { on_key_down(); });
+  if (TakesInput() && on_key_down) Dispatch("KeyDown", [this] { on_key_down(); });
 }
 
 // ---- ListBox -------------------------------------------------------------------------------
@@ -175,7 +175,7 @@ std::string ListBox::SelectedText() const {
 
 void ListBox::Choose(int index) {
   if (!TakesInput() || index < 0 || index >= static_cast<int>(items_.size())) return;
-  Dispatch([&] {
+  Dispatch("Click", [&] {
     list_index_ = index;
     Call(on_click);
   });
@@ -226,20 +226,20 @@ void ComboBox::SetText(std::string text) {
 }
 
 void ComboBox::DropDown() {
-  if (TakesInput() && on_drop_down) Dispatch([this] { on_drop_down(); });
+  if (TakesInput() && on_drop_down) Dispatch("DropDown", [this] { on_drop_down(); });
 }
 
 void ComboBox::Choose(int index) {
   if (!TakesInput() || index < 0 || index >= static_cast<int>(items_.size())) return;
-  Dispatch([&] { SetListIndex(index); });
+  Dispatch("Click", [&] { SetListIndex(index); });
 }
 
 void ComboBox::KeyPress(char32_t character) {
-  if (TakesInput() && on_key_press) Dispatch([&] { on_key_press(character); });
+  if (TakesInput() && on_key_press) Dispatch("KeyPress", [&] { on_key_press(character); });
 }
 
 void ComboBox::GotFocus() {
-  if (TakesInput() && on_got_focus) Dispatch([this] { on_got_focus(); });
+  if (TakesInput() && on_got_focus) Dispatch("GotFocus", [this] { on_got_focus(); });
 }
 
 // ---- GridControl ---------------------------------------------------------------------------
@@ -256,22 +256,22 @@ void GridControl::Reset() {
 
 Entry GridControl::Type(int column, int row, std::string_view text) {
   Entry entry{false, {}};
-  if (TakesInput()) Dispatch([&] { entry = Grid::Type(column, row, text); });
+  if (TakesInput()) Dispatch("Change", [&] { entry = Grid::Type(column, row, text); });
   return entry;
 }
 
 Entry GridControl::Tick(int column, int row) {
   Entry entry{false, {}};
-  if (TakesInput()) Dispatch([&] { entry = Grid::Tick(column, row); });
+  if (TakesInput()) Dispatch("ButtonClicked", [&] { entry = Grid::Tick(column, row); });
   return entry;
 }
 
 void GridControl::MoveTo(int column, int row) {
-  if (TakesInput()) Dispatch([&] { Grid::MoveTo(column, row); });
+  if (TakesInput()) Dispatch("LeaveCell", [&] { Grid::MoveTo(column, row); });
 }
 
 void GridControl::Click(int column, int row) {
-  if (TakesInput()) Dispatch([&] { Grid::Click(column, row); });
+  if (TakesInput()) Dispatch("Click", [&] { Grid::Click(column, row); });
 }
 
 }  // namespace survey

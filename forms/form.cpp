@@ -39,6 +39,10 @@ void Form::OnUntrappedFailure(const RunTimeError& failure) {
   forms_.UnloadAll();
 }
 
+void Form::ReportUntrapped(const RunTimeError& failure) {
+  boxes().ReportError(name_, failure.what(), routine_, failure.number());
+}
+
 bool Form::CanShow(std::string_view target) {
   if (forms_.IsBuilt(std::string(target))) return true;
   boxes().PlainBox("This part of the survey is not in the program yet.");

@@ -61,6 +61,9 @@ class Form {
   // A failure that no handler of the form trapped. Tells it and ends the program, unless a form
   // knows better.
   virtual void OnUntrappedFailure(const RunTimeError& failure);
+  // What a form does instead whose untrapped failures only end their handler: reports the failure
+  // under the form's own name and its routine's, "cmdSave_Click" or "Form_Activate".
+  void ReportUntrapped(const RunTimeError& failure);
 
   Survey& survey() const { return forms_.survey(); }
   MessageBoxes& boxes() const { return forms_.boxes(); }
@@ -90,6 +93,7 @@ class Form {
   std::string design_caption_;
   std::vector<Control*> controls_;
   Control* focus_request_ = nullptr;
+  std::string routine_;  // that the host or a control ran last
   bool loaded_ = false;
 };
 

@@ -135,6 +135,7 @@ void Forms::ActivateFront() {
   while (!ended_ && Front() != nullptr && Front() != activated_) {
     Form& front = *Front();
     activated_ = &front;
+    front.routine_ = "Form_Activate";
     Guarded(front, [&] { front.Form_Activate(); });
   }
 }

@@ -8,15 +8,13 @@ SurveyPage::SurveyPage(Forms& forms, std::string name, std::string title,
                        const PageCaptions& captions)
     : Form(forms, std::move(name), title),
       cmdNext(*this, "cmdNext", captions.next),
-      cmdPrevious(*this, "cmdPrevious", captions.previous),
       title_(std::move(title)),
       rules_(RulesOf(this->name())) {
-  if (captions.menu != nullptr) {
-    cmdMenu.emplace(*this, "cmdMenu", captions.menu);
-    cmdMenu->on_click = [this] { FollowLink(*cmdMenu, &cmdSave); };
+  if (captions.previous != nullptr) {
+    AddLink(cmdPrevious.emplace(*this, "cmdPrevious", captions.previous));
   }
-  cmdNext.on_click = [this] { FollowLink(cmdNext, &cmdSave); };
-  cmdPrevious.on_click = [this] { FollowLink(cmdPrevious, &cmdSave); };
+  AddLink(cmdNext);
+  if (captions.menu != nullptr) AddLink(cmdMenu.emplace(*this, "cmdMenu", captions.menu));
   cmdSave.on_click = [this] { Save(); };
   cmdPrintPage.on_click = [this] {
     Trap(rules_.print, [this] {
@@ -46,12 +44,17 @@ void SurveyPage::Printpage() {
 }
 
 Layout SurveyPage::Arrange() {
-  std::vector<Layout> buttons = {Place(cmdPrevious), Place(cmdNext)};
-  if (cmdMenu) buttons.push_back(Place(*cmdMenu));
+  std::vector<Layout> buttons;
+  for (Button* link : links_) buttons.push_back(Place(*link));
   buttons.insert(buttons.end(), {Space(), Place(cmdPrintPage), Place(cmdSave)});
   return ColumnOf({FrameOf(Frame1, Body(), 1),
                    FrameOf(Frame2, ColumnOf({RowOf(std::move(buttons)),
                                              RowOf({Place(lblEnter), Space(), Place(lblTab)})}))});
+}
+
+void SurveyPage::AddLink(Button& button) {
+  button.on_click = [this, &button] { FollowLink(button, &cmdSave); };
+  links_.push_back(&button);
 }
 
 void SurveyPage::MarkChangesOf(GridControl& grid) {

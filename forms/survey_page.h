@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "forms/form.h"
 #include "forms/page_rules.h"
@@ -12,8 +13,8 @@ namespace survey {
 // What the buttons of a page read, where it is not the usual.
 struct PageCaptions {
   const char* next = "Next Page";
-  const char* previous = "Previous Page";
-  const char* menu = "Menu";  // null: the page has no such button
+  const char* previous = "Previous Page";  // null: the page has no such button
+  const char* menu = "Menu";               // null again
 };
 
 // What all pages of the survey share: the buttons, the unsaved mark (the yellow of Save, and
@@ -35,7 +36,7 @@ class SurveyPage : public Form {
   Button cmdSave{*this, "cmdSave", "Save"};
   Button cmdPrintPage{*this, "cmdPrintPage", "Print Page"};
   Button cmdNext;
-  Button cmdPrevious;
+  std::optional<Button> cmdPrevious;
   std::optional<Button> cmdMenu;
   Label lblEnter{*this, "lblEnter", "ENTER to move between cells on grids"};
   Label lblTab{*this, "lblTab", "TAB button to move between controls"};
@@ -56,6 +57,8 @@ class SurveyPage : public Form {
   // and the mark stays.
   virtual bool MaySave() { return true; }
 
+  // Adds a button that leads where the page chain says to the page's row of buttons.
+  void AddLink(Button& button);
   void MarkUnsaved() { cmdSave.BackColor = kYellow; }
   // A change of the user's in this grid sets the unsaved mark.
   void MarkChangesOf(GridControl& grid);
@@ -66,6 +69,7 @@ class SurveyPage : public Form {
 
   std::string title_;
   const PageRules& rules_;
+  std::vector<Button*> links_;  // from left to right
 };
 
 }  // namespace survey

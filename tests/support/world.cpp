@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path MakeTemporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "survey-test-XXXXXX").string();
+  std::string name = (fs::temp_directory_path() / "survey-test-").string() + std::string(6, 'X');
   if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
   return name;
 }
@@ -44,7 +44,13 @@ std::string FakeDialogs::OpenFile(const std::string& filter) {
   return file;
 }
 
-std::string FakeDialogs::InputBox(const std::string&, const std::string&) { return {}; }
+std::string FakeDialogs::InputBox(const std::string& prompt, const std::string& title) {
+  inputs_seen.push_back(title + ": " + prompt);
+  if (inputs.empty()) return {};
+  std::string input = inputs.front();
+  inputs.pop_front();
+  return input;
+}
 
 std::string FakeSettings::Get(const std::string& application, const std::string& section,
                               const std::string& key) {
@@ -78,6 +84,7 @@ void FakePrinter::SetOrientation(Orientation orientation) {
 }
 
 void FakePrinter::Print(std::string_view text) {
+  if (broken) throw RunTimeError(482, "Printer error");
   operations.push_back("Print \"" + std::string(text) + "\"");
 }
 

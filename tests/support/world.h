@@ -38,6 +38,8 @@ struct FakeDialogs : Dialogs {
   std::deque<int> answers;  // OK, or the default button, once they are used up
   std::string file;         // the next pick
   std::string filter_seen;
+  std::deque<std::string> inputs;        // Cancel once they are used up
+  std::vector<std::string> inputs_seen;  // "title: prompt"
 };
 
 struct FakeSettings : Settings {
@@ -77,6 +79,7 @@ struct FakePrinter : Printer {
 
   std::vector<std::string> operations;
   bool cancel = false;  // the user cancels the dialog
+  bool broken = false;  // fails at the first text
 };
 
 // A program without a desktop, in a folder of its own with the template in it.
