@@ -1,0 +1,27 @@
+#ifndef PAGES_STUDENT_FRMPAGE14_H_
+#define PAGES_STUDENT_FRMPAGE14_H_
+
+#include "forms/cell_table.h"
+#include "forms/survey_page.h"
+
+namespace survey {
+
+// Table 3.18: students with special needs by primary disability, programme and gender.
+class FrmPage14 : public SurveyPage {
+ public:
+  explicit FrmPage14(Forms& forms);
+
+  GridControl gridPage9_1;
+
+ protected:
+  // Opens no connection: works on the one that stands open.
+  void Form_Load() override;
+  Layout Body() override;
+  void PlaceCursor() override;
+  void GetPage() override;
+  void SavePage() override;
+};
+
+}  // namespace survey
+
+#endif  // PAGES_STUDENT_FRMPAGE14_H_

@@ -1,0 +1,25 @@
+#ifndef PAGES_STUDENT_FRMPAGE3_H_
+#define PAGES_STUDENT_FRMPAGE3_H_
+
+#include "forms/cell_table.h"
+#include "forms/survey_page.h"
+
+namespace survey {
+
+// Table 2.5, which every other student table is measured against.
+class FrmPage3 : public SurveyPage {
+ public:
+  explicit FrmPage3(Forms& forms);
+
+  GridControl gridEnrolment;
+
+ protected:
+  Layout Body() override;
+  void PlaceCursor() override;
+  void GetPage() override;
+  void SavePage() override;
+};
+
+}  // namespace survey
+
+#endif  // PAGES_STUDENT_FRMPAGE3_H_

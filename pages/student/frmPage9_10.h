@@ -1,0 +1,16 @@
+#ifndef PAGES_STUDENT_FRMPAGE9_10_H_
+#define PAGES_STUDENT_FRMPAGE9_10_H_
+
+#include "pages/student/year_of_birth_page.h"
+
+namespace survey {
+
+// Table 3.16: students of NC(V) Level 2 by year of birth and programme.
+class FrmPage9_10 : public YearOfBirthPage {
+ public:
+  explicit FrmPage9_10(Forms& forms);
+};
+
+}  // namespace survey
+
+#endif  // PAGES_STUDENT_FRMPAGE9_10_H_

@@ -1,0 +1,16 @@
+#ifndef PAGES_STUDENT_FRMPAGE9_10_1_H_
+#define PAGES_STUDENT_FRMPAGE9_10_1_H_
+
+#include "pages/student/year_of_birth_page.h"
+
+namespace survey {
+
+// Table 3.17: students of all programmes by year of birth and gender.
+class FrmPage9_10_1 : public YearOfBirthPage {
+ public:
+  explicit FrmPage9_10_1(Forms& forms);
+};
+
+}  // namespace survey
+
+#endif  // PAGES_STUDENT_FRMPAGE9_10_1_H_

@@ -1,0 +1,34 @@
+#ifndef PAGES_STUDENT_NCV_PAGE_H_
+#define PAGES_STUDENT_NCV_PAGE_H_
+
+#include <string_view>
+
+#include "forms/control_totals.h"
+#include "forms/survey_page.h"
+
+namespace survey {
+
+struct NcvLevel;
+
+// Students of one NC(V) level by programme, population group and gender, measured against the
+// control table. The three levels are one page three times over.
+class NcvPage : public SurveyPage {
+ protected:
+  // `name` is the form's; throws std::out_of_range for a form of no level.
+  NcvPage(Forms& forms, std::string_view name);
+
+  Layout Body() override;
+  void PlaceCursor() override;
+  void GetPage() override;
+  void SavePage() override;
+
+ private:
+  const NcvLevel& level_;
+  const GridDesign design_;
+  GridControl grid_;  // gridNCV or gridPage8_2, index 1
+  ControlTotals control_totals_{*this, "Label3"};
+};
+
+}  // namespace survey
+
+#endif  // PAGES_STUDENT_NCV_PAGE_H_
