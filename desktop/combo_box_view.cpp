@@ -1,0 +1,209 @@
+#include "desktop/combo_box_view.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QTimer>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "desktop/list_box_view.h"
+
+namespace survey {
+namespace {
+
+constexpr int kVisibleEntries = 15;
+constexpr int kWidthInCharacters = 34;
+constexpr int kWidestList = 900;
+
+bool IsCharacter(const QKeyEvent& event) {
+  const bool command =
+      (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+  return !command && !event.text().isEmpty() && event.text().at(0).isPrint();
+}
+
+}  // namespace
+
+class ComboBoxWidget : public QComboBox {
+ public:
+  ComboBoxWidget(ComboBox& box, QWidget* parent) : QComboBox(parent), box_(box) {
+    auto* list = new QListView(this);
+    list->setUniformItemSizes(true);
+    setView(list);
+    setMaxVisibleItems(kVisibleEntries);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(kWidthInCharacters);
+    if (!TakesCharacters()) return;
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setCompleter(nullptr);
+    // Its text changes through the control alone.
+    lineEdit()->setReadOnly(true);
+    view()->installEventFilter(this);
+  }
+
+  bool TakesCharacters() const { return box_.on_key_press != nullptr; }
+
+  // Opens the list without telling the control, which wished it.
+  void OpenList() {
+    if (view()->isVisible()) return;
+    FitListWidth();
+    QComboBox::showPopup();
+    // The line clears its selection once more when the list has come up.
+    if (TakesCharacters()) QTimer::singleShot(0, this, [this] { ShowLine(); });
+  }
+
+  void showPopup() override {
+    box_.DropDown();
+    OpenList();
+  }
+
+  // What the user has marked meanwhile stays marked unless the control changed something.
+  void TakeOverText() {
+    const Line line{QString::fromStdString(box_.Text()), box_.SelectionStart, box_.SelectionLength};
+    if (line != shown_ || lineEdit()->text() != line.text) {
+      shown_ = line;
+      ShowLine();
+    }
+    if (view()->isVisible() && box_.ListIndex() >= 0) {
+      const QSignalBlocker blocker(this);
+      view()->setCurrentIndex(model()->index(box_.ListIndex(), 0));
+    }
+  }
+
+ protected:
+  // Shows a text that is not in the list like any other.
+  void initStyleOption(QStyleOptionComboBox* option) const override {
+    QComboBox::initStyleOption(option);
+    if (!TakesCharacters()) option->currentText = QString::fromStdString(box_.Text());
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    if (TakesCharacters() && TakeKey(*event)) return;
+    if (!IsCharacter(*event) || event->key() == Qt::Key_Space) {
+      QComboBox::keyPressEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool in_list = watched == view() && event->type() == QEvent::KeyPress;
+    if (in_list && TakeKey(static_cast<QKeyEvent&>(*event))) return true;
+    return QComboBox::eventFilter(watched, event);
+  }
+
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+  // The list that takes the focus would clear the selection of the line above it.
+  void focusOutEvent(QFocusEvent* event) override {
+    QComboBox::focusOutEvent(event);
+    if (TakesCharacters() && view()->isVisible()) ShowLine();
+  }
+
+  void focusInEvent(QFocusEvent* event) override {
+    QComboBox::focusInEvent(event);
+    const bool by_user =
+        event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    if (by_user) box_.GotFocus();
+  }
+
+ private:
+  struct Line {
+    QString text;
+    int selection_start = 0;
+    int selection_length = 0;
+    bool operator==(const Line&) const = default;
+  };
+
+  void ShowLine() {
+    lineEdit()->setText(shown_.text);
+    lineEdit()->setSelection(shown_.selection_start, shown_.selection_length);
+  }
+
+  bool TakeKey(QKeyEvent& event) {
+    if (event.key() == Qt::Key_Backspace) {
+      UnmarkTyped();
+      return true;
+    }
+    if (!IsCharacter(event)) return false;
+    HandOverSelection();
+    for (const uint character : event.text().toUcs4()) {
+      box_.KeyPress(static_cast<char32_t>(character));
+    }
+    return true;
+  }
+
+  // While the list is open the line has no focus, and its selection is the control's.
+  void HandOverSelection() {
+    if (view()->isVisible()) return;
+    const QLineEdit& line = *lineEdit();
+    box_.SelectionStart = line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();
+    box_.SelectionLength = line.selectionLength();
+  }
+
+  // Takes the last typed character back into the part that the next one replaces.
+  void UnmarkTyped() {
+    HandOverSelection();
+    box_.SelectionStart = std::max(0, box_.SelectionStart - 1);
+    box_.SelectionLength = static_cast<int>(lineEdit()->text().size()) - box_.SelectionStart;
+    TakeOverText();
+  }
+
+  // Entries are as long as they need; measuring the longest alone keeps thousands quick.
+  void FitListWidth() {
+    const auto& items = box_.items();
+    const auto longest = std::max_element(
+        items.begin(), items.end(),
+        [](const ListItem& a, const ListItem& b) { return a.text.size() < b.text.size(); });
+    if (longest == items.end()) return;
+    const int text = fontMetrics().horizontalAdvance(QString::fromStdString(longest->text));
+    const int around = 24 + view()->verticalScrollBar()->sizeHint().width();
+    view()->setMinimumWidth(std::clamp(text + around, width(), std::max(width(), kWidestList)));
+  }
+
+  ComboBox& box_;
+  Line shown_;
+};
+
+ComboBoxView::ComboBoxView(ComboBox& box, QWidget* parent)
+    : ControlView(box, new ComboBoxWidget(box, parent)),
+      box_(box),
+      widget_(static_cast<ComboBoxWidget&>(*widget())),
+      model_(*new QStringListModel(&widget_)) {
+  widget_.setModel(&model_);
+  QObject::connect(&widget_, &QComboBox::activated, &widget_, [this](int index) {
+    box_.Choose(index);
+    TakeOver();
+  });
+}
+
+void ComboBoxView::TakeOverState() {
+  TakeOverEntries();
+  ShowBackColor(widget_, box_.BackColor, kWhite);
+  if (box_.DroppedDown) {
+    box_.DroppedDown = false;
+    if (widget_.isVisible()) widget_.OpenList();
+  }
+}
+
+void ComboBoxView::TakeOverEntries() {
+  const QSignalBlocker blocker(widget_);
+  if (revision_ != box_.revision()) {
+    model_.setStringList(Texts(box_.items()));
+    revision_ = box_.revision();
+  }
+  if (widget_.currentIndex() != box_.ListIndex()) widget_.setCurrentIndex(box_.ListIndex());
+  if (widget_.TakesCharacters()) {
+    widget_.TakeOverText();
+  } else {
+    widget_.update();
+  }
+}
+
+}  // namespace survey

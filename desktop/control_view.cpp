@@ -1,0 +1,330 @@
+#include "desktop/control_view.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "desktop/combo_box_view.h"
+#include "desktop/grid_view.h"
+#include "desktop/list_box_view.h"
+
+namespace survey {
+namespace {
+
+constexpr int kButtonWidth = 112;
+constexpr int kButtonHeight = 30;
+constexpr int kButtonPadding = 10;
+constexpr int kHeadingPercent = 130;
+// Longer texts are broken into lines instead of making the window wide.
+constexpr int kLongLabel = 60;
+constexpr int kLongLabelWidth = 260;
+
+bool IsEnter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+// ---- Label ---------------------------------------------------------------------------------
+
+class LabelView : public ControlView {
+ public:
+  LabelView(Label& label, QWidget* parent)
+      : ControlView(label, new QLabel(parent)),
+        label_(label),
+        widget_(static_cast<QLabel&>(*widget())) {
+    widget_.setTextFormat(Qt::PlainText);
+    if (!label.Heading) return;
+    QFont font = widget_.font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * kHeadingPercent / 100);
+    widget_.setFont(font);
+  }
+
+ private:
+  void TakeOverState() override {
+    const QString text = QString::fromStdString(label_.Caption).trimmed();
+    if (widget_.text() == text) return;
+    const bool is_long = text.size() > kLongLabel;
+    widget_.setWordWrap(is_long);
+    widget_.setMinimumWidth(is_long ? kLongLabelWidth : 0);
+    widget_.setText(text);
+  }
+
+  Label& label_;
+  QLabel& widget_;
+};
+
+// ---- Frame ---------------------------------------------------------------------------------
+
+// A frame without a title is there to be hidden with all it holds, and has no border.
+class FrameWidget : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (!title().isEmpty()) QGroupBox::paintEvent(event);
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QGroupBox::resizeEvent(event);
+    if (title().isEmpty()) setContentsMargins(0, 0, 0, 0);
+  }
+};
+
+class FrameView : public ControlView {
+ public:
+  FrameView(Frame& frame, QWidget* parent)
+      : ControlView(frame, new FrameWidget(parent)),
+        frame_(frame),
+        widget_(static_cast<QGroupBox&>(*widget())) {}
+
+ private:
+  void TakeOverState() override {
+    // The name of a college may hold an ampersand, which stands for no key here.
+    widget_.setTitle(QString::fromStdString(frame_.Caption).trimmed().replace("&", "&&"));
+  }
+
+  Frame& frame_;
+  QGroupBox& widget_;
+};
+
+// ---- Button --------------------------------------------------------------------------------
+
+class ButtonWidget : public QPushButton {
+ public:
+  ButtonWidget(Button& button, QWidget* parent) : QPushButton(parent), button_(button) {
+    setAutoDefault(false);
+  }
+
+  QSize minimumSizeHint() const override { return sizeHint(); }
+  QSize sizeHint() const override {
+    const QSize size = QPushButton::sizeHint() + QSize(2 * kButtonPadding, 0);
+    return size.expandedTo({kButtonWidth, kButtonHeight});
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (!event->isAutoRepeat()) button_.KeyDown();
+    if (IsEnter(*event) && !event->isAutoRepeat()) {
+      click();
+    } else {
+      QPushButton::keyPressEvent(event);
+    }
+  }
+
+ private:
+  Button& button_;
+};
+
+class ButtonView : public ControlView {
+ public:
+  ButtonView(Button& button, const FormContext& context)
+      : ControlView(button, new ButtonWidget(button, context.parent)),
+        button_(button),
+        widget_(static_cast<QPushButton&>(*widget())) {
+    QObject::connect(&widget_, &QPushButton::clicked, &widget_,
+                     [this, commit_entries = context.commit_entries] {
+                       if (commit_entries()) button_.Click();
+                     });
+  }
+
+ private:
+  void TakeOverState() override {
+    const QString caption = QString::fromStdString(button_.Caption).trimmed();
+    if (widget_.text() != caption) widget_.setText(caption);
+    ShowBackColor(widget_, button_.BackColor, kButtonFace);
+  }
+
+  Button& button_;
+  QPushButton& widget_;
+};
+
+// ---- CheckBox, OptionButton ----------------------------------------------------------------
+
+class CheckBoxView : public ControlView {
+ public:
+  CheckBoxView(CheckBox& box, QWidget* parent)
+      : ControlView(box, new QCheckBox(parent)),
+        box_(box),
+        widget_(static_cast<QCheckBox&>(*widget())) {
+    widget_.setText(QString::fromStdString(box.Caption).trimmed());
+    QObject::connect(&widget_, &QCheckBox::clicked, &widget_, [this] {
+      box_.Click();
+      TakeOver();
+    });
+  }
+
+ private:
+  void TakeOverState() override {
+    const QSignalBlocker blocker(widget_);
+    widget_.setChecked(box_.Value());
+  }
+
+  CheckBox& box_;
+  QCheckBox& widget_;
+};
+
+class OptionButtonView : public ControlView {
+ public:
+  OptionButtonView(OptionButton& option, const FormContext& context)
+      : ControlView(option, new QRadioButton(context.parent)),
+        option_(option),
+        widget_(static_cast<QRadioButton&>(*widget())),
+        group_(*context.option_group(option.group())) {
+    widget_.setText(QString::fromStdString(option.Caption).trimmed());
+    group_.addButton(&widget_);
+    QObject::connect(&widget_, &QRadioButton::clicked, &widget_, [this] {
+      option_.Click();
+      TakeOver();
+    });
+  }
+
+ private:
+  void TakeOverState() override {
+    if (widget_.isChecked() == option_.Value()) return;
+    // An exclusive group could not take over that none is chosen.
+    const QSignalBlocker blocker(widget_);
+    group_.setExclusive(false);
+    widget_.setChecked(option_.Value());
+    group_.setExclusive(true);
+  }
+
+  OptionButton& option_;
+  QRadioButton& widget_;
+  QButtonGroup& group_;
+};
+
+// ---- TextBox -------------------------------------------------------------------------------
+
+class TextBoxWidget : public QLineEdit {
+ public:
+  TextBoxWidget(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    box_.KeyDown();
+    if (IsEnter(*event)) {
+      focusNextChild();
+    } else if (event->key() != Qt::Key_Backspace || TakesBackspace()) {
+      QLineEdit::keyPressEvent(event);
+    }
+  }
+
+ private:
+  bool TakesBackspace() const { return !box_.takes_key || box_.takes_key(U'\b'); }
+
+  TextBox& box_;
+};
+
+class TextBoxView : public ControlView {
+ public:
+  TextBoxView(TextBox& box, QWidget* parent)
+      : ControlView(box, new TextBoxWidget(box, parent)),
+        box_(box),
+        widget_(static_cast<QLineEdit&>(*widget())) {
+    widget_.setAlignment(box.Centered ? Qt::AlignCenter : Qt::AlignLeft);
+    QObject::connect(&widget_, &QLineEdit::textEdited, &widget_, [this](const QString& text) {
+      box_.Enter(text.toStdString());
+      TakeOver();
+    });
+  }
+
+ private:
+  void TakeOverState() override {
+    if (widget_.isReadOnly() != box_.Locked) {
+      widget_.setReadOnly(box_.Locked);
+      ShowBackColor(widget_, box_.Locked ? kLockedGrey : kWhite, kWhite);
+    }
+    const QString text = QString::fromStdString(box_.Text);
+    if (widget_.text() == text) return;
+    // What stands behind the cursor stays behind it when characters before it were left out.
+    const qsizetype behind = widget_.text().size() - widget_.cursorPosition();
+    widget_.setText(text);
+    widget_.setCursorPosition(static_cast<int>(text.size() - behind));
+  }
+
+  TextBox& box_;
+  QLineEdit& widget_;
+};
+
+// ---- Grid ----------------------------------------------------------------------------------
+
+class GridControlView : public ControlView {
+ public:
+  GridControlView(GridControl& grid, QWidget* parent)
+      : ControlView(grid, new GridView(grid, parent)),
+        grid_(grid),
+        widget_(static_cast<GridView&>(*widget())) {}
+
+  bool CommitEntry() override { return widget_.CommitEntry(); }
+  bool IsOpenForEntry() const override {
+    return grid_.Enabled && grid_.NextOpenCell({0, 0}).has_value();
+  }
+
+ private:
+  void TakeOverState() override { widget_.TakeOver(); }
+
+  GridControl& grid_;
+  GridView& widget_;
+};
+
+}  // namespace
+
+ControlView::ControlView(Control& control, QWidget* widget) : control_(control), widget_(widget) {
+  widget_->setObjectName(QString::fromStdString(control.ObjectName()));
+  widget_->setAccessibleName(QString::fromStdString(control.AccessibleName));
+}
+
+void ControlView::TakeOver() {
+  widget_->setVisible(control_.Visible);
+  widget_->setEnabled(control_.Enabled);
+  widget_->setToolTip(QString::fromStdString(control_.ToolTip));
+  TakeOverState();
+}
+
+std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext& context) {
+  if (auto* label = dynamic_cast<Label*>(&control)) {
+    return std::make_unique<LabelView>(*label, context.parent);
+  }
+  if (auto* frame = dynamic_cast<Frame*>(&control)) {
+    return std::make_unique<FrameView>(*frame, context.parent);
+  }
+  if (auto* button = dynamic_cast<Button*>(&control)) {
+    return std::make_unique<ButtonView>(*button, context);
+  }
+  if (auto* box = dynamic_cast<CheckBox*>(&control)) {
+    return std::make_unique<CheckBoxView>(*box, context.parent);
+  }
+  if (auto* option = dynamic_cast<OptionButton*>(&control)) {
+    return std::make_unique<OptionButtonView>(*option, context);
+  }
+  if (auto* box = dynamic_cast<TextBox*>(&control)) {
+    return std::make_unique<TextBoxView>(*box, context.parent);
+  }
+  if (auto* list = dynamic_cast<ListBox*>(&control)) {
+    return std::make_unique<ListBoxView>(*list, context.parent);
+  }
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+    return std::make_unique<ComboBoxView>(*combo, context.parent);
+  }
+  return std::make_unique<GridControlView>(dynamic_cast<GridControl&>(control), context.parent);
+}
+
+void ShowBackColor(QWidget& widget, Color color, Color standard) {
+  QPalette palette;
+  if (color != standard) {
+    const QColor shown(color & 0xFFU, (color >> 8U) & 0xFFU, (color >> 16U) & 0xFFU);
+    for (const auto role : {QPalette::Button, QPalette::Base}) palette.setColor(role, shown);
+    for (const auto role : {QPalette::ButtonText, QPalette::Text}) {
+      palette.setColor(role, Qt::black);
+    }
+  }
+  widget.setPalette(palette);
+}
+
+}  // namespace survey

@@ -1,0 +1,57 @@
+#ifndef DESKTOP_CONTROL_VIEW_H_
+#define DESKTOP_CONTROL_VIEW_H_
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "forms/controls.h"
+
+class QButtonGroup;
+
+namespace survey {
+
+// The widget of one control. It keeps nothing of the control's state: what the user does goes to
+// the control's user side, and TakeOver() shows what the control then holds.
+class ControlView {
+ public:
+  virtual ~ControlView() = default;
+
+  // Takes over the control's state, without raising its user side; cheap when nothing changed.
+  void TakeOver();
+  // False when something typed here is refused and would be lost.
+  virtual bool CommitEntry() { return true; }
+  // Whether a form that comes up would let the user begin here.
+  virtual bool IsOpenForEntry() const { return false; }
+
+  Control& control() const { return control_; }
+  // The parent widget owns it.
+  QWidget* widget() const { return widget_; }
+
+ protected:
+  ControlView(Control& control, QWidget* widget);
+  virtual void TakeOverState() = 0;
+
+ private:
+  Control& control_;
+  QWidget* widget_;
+};
+
+// What the views of one form share.
+struct FormContext {
+  QWidget* parent = nullptr;
+  // Makes entries of all that is being typed; false when one is refused.
+  std::function<bool()> commit_entries;
+  // The options that exclude each other.
+  std::function<QButtonGroup*(const std::string& group)> option_group;
+};
+
+// The view of a control of any kind. That of a Frame has no layout yet.
+std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext& context);
+
+// Colours a widget as the control says; the standard colour gives the style's own back.
+void ShowBackColor(QWidget& widget, Color color, Color standard);
+
+}  // namespace survey
+
+#endif  // DESKTOP_CONTROL_VIEW_H_

@@ -1,0 +1,167 @@
+#include "desktop/desktop_view.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <functional>
+
+#include "desktop/pictures.h"
+
+namespace survey {
+namespace {
+
+constexpr QSize kWindowSize(1200, 720);
+constexpr QSize kSmallestWindow(640, 420);
+// What a desktop puts around and beside a window.
+constexpr QSize kWindowBorders(16, 48);
+
+class MainWindow : public QMainWindow {
+ public:
+  explicit MainWindow(std::function<void()> on_close) : on_close_(std::move(on_close)) {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    on_close_();
+  }
+
+ private:
+  std::function<void()> on_close_;
+};
+
+}  // namespace
+
+// The window of a modal form.
+class FormDialog : public QDialog {
+ public:
+  FormDialog(Form& form, QWidget* parent) : QDialog(parent), contents_(new FormWidget(form, this)) {
+    setObjectName(QString::fromStdString(form.name()) + "Dialog");
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(contents_);
+  }
+
+  Form& form() const { return contents_->form(); }
+
+  void TakeOver() {
+    if (!form().loaded()) {
+      done(Accepted);
+      return;
+    }
+    setWindowTitle(QString::fromStdString(form().Caption));
+    contents_->TakeOver();
+  }
+
+  // The close box, and Esc.
+  void reject() override { form().forms().CloseBox(form()); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    reject();
+  }
+
+ private:
+  FormWidget* contents_;
+};
+
+DesktopView::DesktopView(Forms& forms)
+    : forms_(forms),
+      window_(std::make_unique<MainWindow>([this] { CloseMainWindow(); })),
+      pages_(new QStackedWidget(window_.get())) {
+  window_->setObjectName("mainWindow");
+  window_->setWindowIcon(ProgramIcon());
+  window_->setMinimumSize(kSmallestWindow);
+  window_->resize(kWindowSize.boundedTo(window_->screen()->availableSize() - kWindowBorders));
+  auto* picture = new QLabel(pages_);
+  picture->setAlignment(Qt::AlignCenter);
+  picture->setPixmap(ProgramIcon().pixmap(QSize(128, 128)));
+  no_page_ = picture;
+  pages_->addWidget(no_page_);
+  window_->setCentralWidget(pages_);
+  forms_.set_view(this);
+}
+
+DesktopView::~DesktopView() { forms_.set_view(nullptr); }
+
+QWidget* DesktopView::FrontWindow() const {
+  if (!dialogs_.empty()) return dialogs_.back();
+  return window_.get();
+}
+
+void DesktopView::Refresh() {
+  if (refreshing_) {
+    again_ = true;
+    return;
+  }
+  {
+    const QScopedValueRollback refreshing(refreshing_, true);
+    do {
+      again_ = false;
+      TakeOver();
+    } while (again_);
+  }
+  Q_EMIT ActionEnded();
+  if (forms_.Ended() && dialogs_.empty()) {
+    window_->hide();
+    Q_EMIT Ended();
+  }
+}
+
+void DesktopView::RunModal(Form& form) {
+  FormDialog dialog(form, FrontWindow());
+  dialogs_.push_back(&dialog);
+  dialog.TakeOver();
+  dialog.exec();
+  // The whole desktop may be closing under an open dialog.
+  if (form.loaded()) forms_.CloseBox(form);
+  std::erase(dialogs_, &dialog);
+}
+
+void DesktopView::TakeOver() {
+  DropUnloaded();
+  Form* front = nullptr;
+  for (Form* form : forms_.shown()) {
+    if (!forms_.IsModal(*form)) front = form;
+  }
+  if (front != nullptr) {
+    ShowInMainWindow(*front);
+  } else {
+    pages_->setCurrentWidget(no_page_);
+  }
+  for (FormDialog* dialog : dialogs_) dialog->TakeOver();
+}
+
+void DesktopView::DropUnloaded() {
+  std::erase_if(widgets_, [this](const auto& shown) {
+    const auto& [form, widget] = shown;
+    if (form->loaded()) return false;
+    pages_->removeWidget(widget);
+    // One of its buttons may be what runs now.
+    widget->deleteLater();
+    return true;
+  });
+}
+
+void DesktopView::ShowInMainWindow(Form& form) {
+  FormWidget*& widget = widgets_[&form];
+  if (widget == nullptr) {
+    widget = new FormWidget(form);
+    pages_->addWidget(widget);
+  }
+  window_->setWindowTitle(QString::fromStdString(form.Caption));
+  widget->TakeOver();
+  pages_->setCurrentWidget(widget);
+  window_->show();
+}
+
+void DesktopView::CloseMainWindow() {
+  if (!dialogs_.empty()) return;
+  if (Form* front = forms_.Front()) forms_.CloseBox(*front);
+}
+
+}  // namespace survey

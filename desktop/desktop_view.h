@@ -1,0 +1,59 @@
+#ifndef DESKTOP_DESKTOP_VIEW_H_
+#define DESKTOP_DESKTOP_VIEW_H_
+
+#include <QDialog>
+#include <QMainWindow>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "desktop/form_widget.h"
+#include "forms/forms.h"
+
+class QStackedWidget;
+
+namespace survey {
+
+class FormDialog;
+
+// Shows the forms: the one in front fills the main window, modal forms are dialogs over it.
+class DesktopView : public QObject, public FormsView {
+  Q_OBJECT
+
+ public:
+  // `forms` must outlive the view, which is its view from now on.
+  explicit DesktopView(Forms& forms);
+  ~DesktopView() override;
+
+  void Refresh() override;
+  void RunModal(Form& form) override;
+
+  QMainWindow& window() const { return *window_; }
+  // The window that boxes belong to: the last dialog, else the main window.
+  QWidget* FrontWindow() const;
+
+ Q_SIGNALS:
+  // A user action has ended, and is on screen.
+  void ActionEnded();
+  // The program has ended; its windows are gone from the screen.
+  void Ended();
+
+ private:
+  void TakeOver();
+  void DropUnloaded();
+  void ShowInMainWindow(Form& form);
+  void CloseMainWindow();
+
+  Forms& forms_;
+  std::unique_ptr<QMainWindow> window_;
+  QStackedWidget* pages_;
+  QWidget* no_page_;  // seen while a modal form has no other beneath
+  std::map<Form*, FormWidget*> widgets_;
+  std::vector<FormDialog*> dialogs_;  // the last one in front
+  bool refreshing_ = false;
+  bool again_ = false;  // something changed while it was taken over
+};
+
+}  // namespace survey
+
+#endif  // DESKTOP_DESKTOP_VIEW_H_

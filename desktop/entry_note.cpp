@@ -1,0 +1,60 @@
+#include "desktop/entry_note.h"
+
+#include <QAccessible>
+#include <algorithm>
+#include <chrono>
+
+namespace survey {
+namespace {
+
+constexpr std::chrono::milliseconds kShown(10'000);
+constexpr std::chrono::milliseconds kShownPerCharacter(60);
+constexpr int kWidest = 520;  // of a note, in pixels
+
+}  // namespace
+
+EntryNote::EntryNote(QWidget& view) : view_(view) {
+  timer_.setSingleShot(true);
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Hide(); });
+}
+
+EntryNote::~EntryNote() { delete label_; }
+
+void EntryNote::Show(const QString& text, const QWidget& on, const QRect& place) {
+  Hide();
+  QWidget* window = view_.window();
+  label_ = new QLabel(text, window);
+  label_->setObjectName(QStringLiteral("entryNote"));
+  label_->setTextFormat(Qt::PlainText);
+  label_->setStyleSheet(QStringLiteral(
+      "QLabel { background: #fff3c4; color: black; border: 1px solid #806000; padding: 4px; }"));
+  const int widest = std::min(kWidest, window->width() - 8);
+  if (label_->sizeHint().width() > widest) {
+    label_->setWordWrap(true);
+    label_->setFixedWidth(widest);
+  }
+  label_->adjustSize();
+  const QPoint below = on.mapTo(window, place.bottomLeft()) + QPoint(0, 3);
+  const QPoint above = on.mapTo(window, place.topLeft()) - QPoint(0, label_->height() + 3);
+  const bool fits = below.y() + label_->height() <= window->height();
+  const QPoint at = fits ? below : above;
+  label_->move(std::clamp(at.x(), 0, std::max(0, window->width() - label_->width())),
+               std::max(0, at.y()));
+  label_->raise();
+  label_->show();
+  timer_.start(kShown + text.size() * kShownPerCharacter);
+  view_.setAccessibleDescription(text);
+  QAccessibleEvent alert(label_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+void EntryNote::Hide() {
+  timer_.stop();
+  if (!label_) return;
+  view_.setAccessibleDescription({});
+  label_->hide();
+  label_->deleteLater();
+  label_ = nullptr;
+}
+
+}  // namespace survey

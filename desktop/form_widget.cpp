@@ -1,0 +1,355 @@
+#include "desktop/form_widget.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <algorithm>
+#include <optional>
+
+namespace survey {
+namespace {
+
+constexpr int kMargin = 14;
+constexpr int kSpacing = 10;
+constexpr int kBlockSpacing = 14;  // between the parts of the form itself
+constexpr int kFrameMargin = 12;
+// A form stands in the middle of the window.
+constexpr int kReadingWidth = 860;
+// Stretch of what takes all it may before the space beside it takes any.
+constexpr int kFirst = 1000;
+constexpr int kFieldWidth = 520;
+constexpr int kDialogWidth = 480;
+constexpr int kWholeTable = 340;  // height up to which a table does not scroll by itself
+
+template <typename Kind>
+bool Holds(const Layout& part) {
+  if (dynamic_cast<const Kind*>(part.control) != nullptr) return true;
+  return std::any_of(part.parts.begin(), part.parts.end(), Holds<Kind>);
+}
+
+bool IsButton(const Layout& part) { return dynamic_cast<const Button*>(part.control) != nullptr; }
+
+// Takes more room than it needs when there is some.
+bool Grows(const Layout& part) {
+  if (part.stretch > 0 || part.kind == Layout::Kind::kSpace) return true;
+  return part.kind == Layout::Kind::kFields || Holds<GridControl>(part) || Holds<ListBox>(part) ||
+         std::any_of(part.parts.begin(), part.parts.end(), Grows);
+}
+
+// Buttons below each other, perhaps with a text or a box to tick: they share one width.
+bool IsButtonColumn(const Layout& part) {
+  return std::all_of(part.parts.begin(), part.parts.end(), [](const Layout& child) {
+    return child.kind == Layout::Kind::kSpace || IsButton(child) || Holds<Label>(child) ||
+           Holds<CheckBox>(child);
+  });
+}
+
+// The buttons that work on the whole form, and the texts beside them.
+bool IsFoot(const Layout& part) {
+  if (part.control == nullptr || part.kind == Layout::Kind::kFrame) {
+    return std::all_of(part.parts.begin(), part.parts.end(), IsFoot);
+  }
+  return IsButton(part) || Holds<Label>(part);
+}
+
+// A table is never larger than its cells: the room that is left goes below the last one.
+void LeaveRoomBelowTables(const std::vector<Layout>& parts, QBoxLayout& column) {
+  const auto is_table = [](const Layout& part) {
+    return dynamic_cast<const GridControl*>(part.control) != nullptr;
+  };
+  if (std::any_of(parts.begin(), parts.end(), is_table)) column.addStretch(1);
+}
+
+// What scrolls as a whole only when its parts cannot be made any smaller. A scroll area asks for
+// the height that its contents would like, and would rather scroll a large table out of view,
+// heads and all, than let it scroll by itself.
+class Contents : public QWidget {
+ public:
+  int heightForWidth(int width) const override { return layout()->minimumHeightForWidth(width); }
+};
+
+void SetUp(QBoxLayout& box) {
+  box.setContentsMargins(0, 0, 0, 0);
+  box.setSpacing(kSpacing);
+}
+
+}  // namespace
+
+FormWidget::FormWidget(Form& form, QWidget* parent)
+    : QWidget(parent), form_(form), scroll_(new QScrollArea(this)) {
+  setObjectName(QString::fromStdString(form.name()));
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidgetResizable(true);
+  auto* whole = new QVBoxLayout(this);
+  SetUp(*whole);
+  whole->setSpacing(0);
+  whole->addWidget(scroll_);
+
+  Layout arrangement = form.Arrange();
+  if (arrangement.kind != Layout::Kind::kColumn) arrangement = ColumnOf({std::move(arrangement)});
+  const bool has_tables = Holds<GridControl>(arrangement);
+  std::optional<Layout> foot;
+  if (has_tables && IsFoot(arrangement.parts.back())) {
+    foot = std::move(arrangement.parts.back());
+    arrangement.parts.pop_back();
+  }
+  auto* place = new Contents;
+  QVBoxLayout* column = AddBlock(*place);
+  AddParts(arrangement, *column, column->parentWidget());
+  if (!has_tables) {
+    column->insertStretch(0, 1);
+    column->addStretch(2);
+  }
+  scroll_->setWidget(place);
+  if (foot) {
+    auto* below = new QWidget(this);
+    QVBoxLayout* foot_column = AddBlock(*below);
+    Add(*foot, *foot_column, foot_column->parentWidget());
+    below->layout()->setContentsMargins(kMargin, kSpacing, kMargin, kMargin);
+    whole->addWidget(below);
+  }
+  FitWidth();
+}
+
+FormWidget::~FormWidget() = default;
+
+// A block stands in the middle of its place, side to side.
+QVBoxLayout* FormWidget::AddBlock(QWidget& place) {
+  auto* across = new QHBoxLayout(&place);
+  across->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  blocks_.push_back(new QWidget(&place));
+  across->addStretch(1);
+  across->addWidget(blocks_.back(), kFirst);
+  across->addStretch(1);
+  auto* column = new QVBoxLayout(blocks_.back());
+  SetUp(*column);
+  column->setSpacing(kBlockSpacing);
+  return column;
+}
+
+// No wider than the tables are, or than reads well.
+void FormWidget::FitWidth() {
+  const int width = std::max(kReadingWidth, blocks_.front()->sizeHint().width());
+  for (QWidget* block : blocks_) block->setMaximumWidth(width);
+}
+
+void FormWidget::BringIntoView(QWidget& widget) {
+  if (scroll_->widget()->isAncestorOf(&widget)) scroll_->ensureWidgetVisible(&widget);
+}
+
+// The scroll area sees to it only while the focus was in it before.
+bool FormWidget::focusNextPrevChild(bool next) {
+  const bool moved = QWidget::focusNextPrevChild(next);
+  if (QWidget* focus = focusWidget()) BringIntoView(*focus);
+  return moved;
+}
+
+void FormWidget::TakeOver() {
+  for (const auto& view : views_) view->TakeOver();
+  FitWidth();
+  if (const Control* wished = form_.TakeFocusRequest()) {
+    begun_ = true;
+    if (QWidget* widget = WidgetOf(*wished)) widget->setFocus();
+  } else if (!begun_) {
+    begun_ = true;
+    BeginEntry();
+  }
+}
+
+bool FormWidget::CommitEntries() {
+  return std::all_of(views_.begin(), views_.end(),
+                     [](const auto& view) { return view->CommitEntry(); });
+}
+
+QSize FormWidget::sizeHint() const {
+  int width = kDialogWidth;
+  for (const QWidget* block : blocks_) {
+    width = std::max(width, block->parentWidget()->sizeHint().width());
+  }
+  int height = 0;
+  for (const QWidget* block : blocks_) {
+    const QLayout& place = *block->parentWidget()->layout();
+    height += place.hasHeightForWidth() ? place.totalHeightForWidth(width)
+                                        : place.totalSizeHint().height();
+  }
+  return QSize(width, height).boundedTo(screen()->availableSize() * 0.9);
+}
+
+// The first table with an open cell, else the first control that takes the focus.
+void FormWidget::BeginEntry() {
+  const auto begins_with = [this](const auto& is_place) {
+    for (const auto& view : views_) {
+      QWidget* widget = view->widget();
+      if (!widget->isVisibleTo(this) || !widget->isEnabledTo(this) || !is_place(*view)) continue;
+      widget->setFocus();
+      return true;
+    }
+    return false;
+  };
+  if (begins_with([](const ControlView& view) { return view.IsOpenForEntry(); })) return;
+  begins_with([](const ControlView& view) {
+    const auto* line = qobject_cast<const QLineEdit*>(view.widget());
+    const bool only_shows = line != nullptr && line->isReadOnly();
+    return !only_shows && (view.widget()->focusPolicy() & Qt::TabFocus) != 0;
+  });
+}
+
+// ---- Building ------------------------------------------------------------------------------
+
+void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
+  switch (part.kind) {
+    case Layout::Kind::kControl:
+      AddControl(part, box, parent);
+      break;
+    case Layout::Kind::kRow:
+    case Layout::Kind::kColumn: {
+      const bool is_row = part.kind == Layout::Kind::kRow;
+      auto* inner = new QBoxLayout(is_row ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+      SetUp(*inner);
+      box.addLayout(inner, part.stretch);
+      AddParts(part, *inner, parent);
+      break;
+    }
+    case Layout::Kind::kFields:
+      AddFields(part, box, parent);
+      break;
+    case Layout::Kind::kFrame:
+      AddFrame(part, box, parent);
+      break;
+    case Layout::Kind::kSpace:
+      box.addStretch(std::max(1, part.stretch));
+      break;
+  }
+}
+
+void FormWidget::AddParts(const Layout& part, QBoxLayout& box, QWidget* parent) {
+  for (const Layout& child : part.parts) Add(child, box, parent);
+  NameByLabel(part.parts);
+  const bool is_row = part.kind == Layout::Kind::kRow;
+  if (is_row && !std::any_of(part.parts.begin(), part.parts.end(), Grows)) box.addStretch(1);
+  if (!is_row) LeaveRoomBelowTables(part.parts, box);
+  if (is_row || IsButtonColumn(part)) return;
+  for (const Layout& child : part.parts) {
+    if (IsButton(child)) box.setAlignment(WidgetOf(*child.control), Qt::AlignLeft);
+  }
+}
+
+void FormWidget::AddControl(const Layout& part, QBoxLayout& box, QWidget* parent) {
+  QWidget* widget = MakeWidget(*part.control, parent);
+  if (Holds<GridControl>(part)) {
+    AddTable(*widget, box);
+    return;
+  }
+  box.addWidget(widget, part.stretch);
+  if (!IsButton(part)) return;
+  const bool stays_small = box.direction() == QBoxLayout::LeftToRight && part.stretch == 0;
+  widget->setSizePolicy(stays_small ? QSizePolicy::Fixed : QSizePolicy::Minimum,
+                        QSizePolicy::Fixed);
+}
+
+// Stands at the top left of its place. Small tables are shown whole; the room is given to all by
+// what they need.
+void FormWidget::AddTable(QWidget& table, QBoxLayout& box) {
+  const int height = table.sizeHint().height();
+  if (height <= kWholeTable) table.setMinimumHeight(height);
+  auto* across = new QHBoxLayout;
+  SetUp(*across);
+  across->addWidget(&table, kFirst);
+  across->addStretch(1);
+  if (box.direction() == QBoxLayout::TopToBottom) {
+    box.addLayout(across, height);
+    return;
+  }
+  auto* down = new QVBoxLayout;
+  SetUp(*down);
+  down->addLayout(across, kFirst);
+  down->addStretch(1);
+  box.addLayout(down, kFirst);
+}
+
+// The label in the first column, all that follows it in the second.
+void FormWidget::AddFields(const Layout& part, QBoxLayout& box, QWidget* parent) {
+  auto* fields = new QGridLayout;
+  fields->setHorizontalSpacing(kSpacing);
+  fields->setVerticalSpacing(kSpacing);
+  fields->setColumnStretch(1, 1);
+  box.addLayout(fields, part.stretch);
+  for (int row = 0; row < static_cast<int>(part.parts.size()); ++row) {
+    const Layout& line = part.parts[row];
+    auto* field = new QHBoxLayout;
+    SetUp(*field);
+    const bool has_label = line.kind == Layout::Kind::kRow && line.parts.size() > 1;
+    if (has_label) {
+      Layout rest = line;
+      rest.parts.erase(rest.parts.begin());
+      fields->addWidget(MakeWidget(*line.parts.front().control, parent), row, 0);
+      AddParts(rest, *field, parent);
+      for (const Layout& child : rest.parts) {
+        if (child.stretch == 0 || child.control == nullptr) continue;
+        WidgetOf(*child.control)->setMaximumWidth(kFieldWidth);
+        field->setStretchFactor(WidgetOf(*child.control), kFirst);
+      }
+      field->addStretch(1);
+      NameByLabel(line.parts);
+    } else {
+      Add(line, *field, parent);
+    }
+    fields->addLayout(field, row, has_label ? 1 : 0, 1, has_label ? 1 : 2);
+  }
+}
+
+void FormWidget::AddFrame(const Layout& part, QBoxLayout& box, QWidget* parent) {
+  QWidget* frame = MakeWidget(*part.control, parent);
+  box.addWidget(frame, part.stretch);
+  auto* inner = new QVBoxLayout(frame);
+  SetUp(*inner);
+  const bool has_border = !static_cast<const Frame*>(part.control)->Caption.empty();
+  if (has_border) inner->setContentsMargins(kFrameMargin, kSpacing, kFrameMargin, kFrameMargin);
+  for (const Layout& child : part.parts) Add(child, *inner, frame);
+  LeaveRoomBelowTables(part.parts, *inner);
+}
+
+QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
+  const FormContext context = {
+      .parent = parent,
+      .commit_entries = [this] { return CommitEntries(); },
+      .option_group = [this](const std::string& group) { return OptionGroup(group); },
+  };
+  views_.push_back(MakeControlView(control, context));
+  // Texts decide how much room there must be, which layouts remember once they are asked.
+  views_.back()->TakeOver();
+  return views_.back()->widget();
+}
+
+// A control that has no name of its own is called by the label before it, which also brings the
+// focus to it.
+void FormWidget::NameByLabel(const std::vector<Layout>& row) {
+  for (std::size_t i = 1; i < row.size(); ++i) {
+    const auto* label = dynamic_cast<const Label*>(row[i - 1].control);
+    if (label == nullptr || row[i].control == nullptr || IsButton(row[i])) continue;
+    QWidget* widget = WidgetOf(*row[i].control);
+    static_cast<QLabel*>(WidgetOf(*label))->setBuddy(widget);
+    if (widget->accessibleName().isEmpty()) {
+      widget->setAccessibleName(QString::fromStdString(label->Caption).remove(':').trimmed());
+    }
+  }
+}
+
+QWidget* FormWidget::WidgetOf(const Control& control) const {
+  const auto view = std::find_if(views_.begin(), views_.end(), [&](const auto& candidate) {
+    return &candidate->control() == &control;
+  });
+  return view == views_.end() ? nullptr : (*view)->widget();
+}
+
+QButtonGroup* FormWidget::OptionGroup(const std::string& group) {
+  QButtonGroup*& made = option_groups_[group];
+  if (made == nullptr) made = new QButtonGroup(this);
+  return made;
+}
+
+}  // namespace survey

@@ -1,0 +1,69 @@
+#ifndef DESKTOP_FORM_WIDGET_H_
+#define DESKTOP_FORM_WIDGET_H_
+
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desktop/control_view.h"
+#include "forms/form.h"
+
+class QButtonGroup;
+
+namespace survey {
+
+// The contents of one form's window: builds widgets from the form's layout, each under its
+// control's name, and shows what the controls hold. It scrolls where the window is too small; the
+// buttons at the foot of a form with tables stay in view.
+class FormWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  // `form` must be loaded, and outlive the widget.
+  explicit FormWidget(Form& form, QWidget* parent = nullptr);
+  ~FormWidget() override;
+
+  Form& form() const { return form_; }
+  // Takes over what has changed in the controls, and the focus where code has set it.
+  void TakeOver();
+  // Makes entries of all that is being typed; false when one is refused.
+  bool CommitEntries();
+
+  // Scrolls as far as needed to show a widget of the form.
+  void BringIntoView(QWidget& widget);
+
+  // The contents at a width that is comfortable to read, never more than the screen has.
+  QSize sizeHint() const override;
+
+ protected:
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  QVBoxLayout* AddBlock(QWidget& place);
+  void Add(const Layout& part, QBoxLayout& box, QWidget* parent);
+  void AddControl(const Layout& part, QBoxLayout& box, QWidget* parent);
+  static void AddTable(QWidget& table, QBoxLayout& box);
+  void AddFields(const Layout& part, QBoxLayout& box, QWidget* parent);
+  void AddFrame(const Layout& part, QBoxLayout& box, QWidget* parent);
+  void AddParts(const Layout& part, QBoxLayout& box, QWidget* parent);
+  QWidget* MakeWidget(Control& control, QWidget* parent);
+  void NameByLabel(const std::vector<Layout>& row);
+  QWidget* WidgetOf(const Control& control) const;
+  QButtonGroup* OptionGroup(const std::string& group);
+  void FitWidth();
+  void BeginEntry();
+
+  Form& form_;
+  QScrollArea* scroll_;
+  std::vector<QWidget*> blocks_;  // the scrolled contents, then the foot where there is one
+  std::vector<std::unique_ptr<ControlView>> views_;  // in the order of the layout
+  std::map<std::string, QButtonGroup*> option_groups_;
+  bool begun_ = false;  // the focus has found its first place
+};
+
+}  // namespace survey
+
+#endif  // DESKTOP_FORM_WIDGET_H_

@@ -1,0 +1,33 @@
+#ifndef DESKTOP_GRID_NAMES_H_
+#define DESKTOP_GRID_NAMES_H_
+
+#include <QString>
+
+#include "grid/grid.h"
+
+namespace survey {
+
+// What the parts of a table are called in words: by a screen reader, and where a message says
+// which cell it means. All on one line but ShownText and HeadText, which are as they are drawn.
+
+QString ShownText(const Grid& grid, Cell cell);
+QString HeadText(const Grid& grid, int column);  // of row 0, "" where there is none
+
+// Whether a head row holds the title of the table, not the heads of its columns.
+bool IsTitleRow(const Grid& grid, int row);
+
+QString TableName(const Grid& grid);
+// The heads over a column, from the top: "Semester 1". Never empty.
+QString ColumnName(const Grid& grid, int column);
+// The labels of a row; where only its first ones are blank, it shares those of a row above, as in
+// the second row of a pair: "2.5.1 REPORT 191 N1 Programmes Female". Never empty.
+QString RowName(const Grid& grid, int row);
+QString CellName(const Grid& grid, Cell cell);  // row and column
+// "locked" or "total", and what is noted about the cell; "" for a plain cell.
+QString StateOf(const Grid& grid, Cell cell);
+// Table, row, column, value and state.
+QString SpokenText(const Grid& grid, Cell cell);
+
+}  // namespace survey
+
+#endif  // DESKTOP_GRID_NAMES_H_

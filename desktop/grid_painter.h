@@ -1,0 +1,61 @@
+#ifndef DESKTOP_GRID_PAINTER_H_
+#define DESKTOP_GRID_PAINTER_H_
+
+#include <QColor>
+#include <QFont>
+#include <functional>
+
+#include "desktop/grid_sheet.h"
+#include "grid/grid.h"
+
+class QPainter;
+
+namespace survey {
+
+// How a cell stands out on screen.
+struct CellLook {
+  bool selected = false;
+  bool cursor = false;   // the cursor is here
+  bool focused = false;  // and the table has the keyboard
+};
+
+// Draws cells of a table, on screen and on paper alike: what a user prints is what they saw.
+// The texts are black on the survey's own colours, whatever colours the desktop has.
+class GridPainter {
+ public:
+  using LookOf = std::function<CellLook(Cell)>;
+
+  // Both must outlive the painter. `font` gives the family, `points` the size of the texts.
+  GridPainter(const Grid& grid, const GridSheet& sheet, const QFont& font, double points);
+
+  // Draws the cells of `block` (row 0 may be in it) that touch `exposed`, at their places on the
+  // sheet under this scroll. A span is drawn once, in full; the caller clips.
+  void PaintBlock(QPainter& painter, const CellRange& block, QPoint scroll, const QRect& exposed,
+                  const LookOf& look_of = {}) const;
+
+  // The box to tick of a check box cell that is drawn in `cell`.
+  QRect BoxIn(const QRect& cell) const;
+
+  // The text font of the cells.
+  const QFont& font() const { return font_; }
+
+ private:
+  struct Setting;
+
+  Setting SettingOf(Cell cell) const;
+  QColor ColorOf(Cell cell) const;
+  void PaintCell(QPainter& painter, Cell cell, const QRect& rect, const CellLook& look) const;
+  void PaintLines(QPainter& painter, const QRect& rect) const;
+  void PaintCursor(QPainter& painter, const QRect& rect, const CellLook& look) const;
+  void PaintBox(QPainter& painter, const QRect& cell, bool ticked, bool open) const;
+  void PaintText(QPainter& painter, const QRect& cell, const Setting& setting) const;
+  int Units(int twips) const;
+
+  const Grid& grid_;
+  const GridSheet& sheet_;
+  QFont font_;
+};
+
+}  // namespace survey
+
+#endif  // DESKTOP_GRID_PAINTER_H_

@@ -1,0 +1,77 @@
+#include "desktop/grid_sheet.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+namespace survey {
+namespace {
+
+constexpr int kTwipsPerCharacter = 125;  // of a head, in bold
+constexpr int kTwipsPerLine = 240;
+
+int LinesOf(std::string_view text, int width) {
+  const int fitting = std::max(1, width / kTwipsPerCharacter);
+  return static_cast<int>(text.size() + fitting - 1) / fitting;
+}
+
+// The design gives row 0 no height of its own: it is as high as its longest text needs.
+int HeadHeight(const GridDesign& design) {
+  if (design.heads.empty()) return 0;
+  int lines = 1;
+  for (int i = 0; i < std::min(std::ssize(design.heads), std::ssize(design.column_widths)); ++i) {
+    if (design.column_widths[i] == 0) continue;
+    lines = std::max(lines, LinesOf(design.heads[i], design.column_widths[i]));
+  }
+  return std::max(design.row_height, std::min(lines, 3) * kTwipsPerLine + 60);
+}
+
+int RowHeight(const Grid& grid, int row) {
+  const GridDesign& design = grid.design();
+  if (row == 0) return HeadHeight(design);
+  if (grid.IsRowHidden(row)) return 0;
+  return row <= std::ssize(design.row_heights) ? design.row_heights[row - 1] : design.row_height;
+}
+
+}  // namespace
+
+GridSheet::GridSheet(const Grid& grid, double units_per_twip)
+    : units_per_twip_(units_per_twip),
+      head_rows_(std::min(grid.design().head_rows, grid.MaxRows())),
+      label_columns_(std::min(grid.design().label_columns, grid.MaxColumns())) {
+  // Each edge is rounded for itself: rounded widths would add up to another sheet.
+  const auto add_edge = [&](std::vector<int>& edges, int twips) {
+    edges.push_back(static_cast<int>(std::lround(twips * units_per_twip)));
+  };
+  int twips = 0;
+  left_ = {0, 0};
+  for (int column = 1; column <= grid.MaxColumns(); ++column) {
+    add_edge(left_, twips += grid.design().column_widths[column - 1]);
+  }
+  twips = 0;
+  top_ = {0};
+  for (int row = 0; row <= grid.MaxRows(); ++row) add_edge(top_, twips += RowHeight(grid, row));
+}
+
+Placement GridSheet::Place(const CellRange& block, QPoint scroll) const {
+  const int last_column = std::min(block.last_column, columns());
+  const int last_row = std::min(block.last_row, rows());
+  const int x = X(block.column) - (block.column > label_columns_ ? scroll.x() : 0);
+  const int y = Y(block.row) - (block.row > head_rows_ ? scroll.y() : 0);
+  const int right = X(last_column + 1) - (last_column > label_columns_ ? scroll.x() : 0);
+  const int bottom = Y(last_row + 1) - (last_row > head_rows_ ? scroll.y() : 0);
+  return {{x, y, X(last_column + 1) - X(block.column), Y(last_row + 1) - Y(block.row)},
+          {x, y, std::max(0, right - x), std::max(0, bottom - y)}};
+}
+
+Cell GridSheet::CellAt(QPoint place, QPoint scroll) const {
+  // In this order what stays in view comes before what has been scrolled beneath it.
+  for (int row = 0; row <= rows(); ++row) {
+    for (int column = 1; column <= columns(); ++column) {
+      if (Place({column, row}, scroll).shown.contains(place)) return {column, row};
+    }
+  }
+  return {};
+}
+
+}  // namespace survey

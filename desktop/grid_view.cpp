@@ -1,0 +1,234 @@
+#include "desktop/grid_view.h"
+
+#include <QCoreApplication>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/entry_note.h"
+#include "desktop/grid_bands.h"
+#include "desktop/grid_delegate.h"
+#include "desktop/grid_model.h"
+#include "desktop/grid_names.h"
+#include "desktop/grid_painter.h"
+#include "desktop/grid_sheet.h"
+
+namespace survey {
+namespace {
+
+constexpr double kPoints = 9;
+constexpr double kTwipsPerInch = 1440;
+
+// A table with heads of a list and nothing to type into.
+bool IsList(const GridDesign& design) {
+  return !design.heads.empty() &&
+         std::ranges::none_of(design.rules, [](const CellRule& rule) { return rule.open; });
+}
+
+// The part of a block behind the frozen rows and columns; empty (last before first) where there
+// is none.
+CellRange BodyPart(const CellRange& block, const GridSheet& sheet) {
+  return {std::max(block.column, sheet.label_columns() + 1),
+          std::max(block.row, sheet.head_rows() + 1), std::min(block.last_column, sheet.columns()),
+          std::min(block.last_row, sheet.rows())};
+}
+
+}  // namespace
+
+GridView::GridView(GridControl& grid, QWidget* parent)
+    : QTableView(parent),
+      grid_(grid),
+      list_(IsList(grid.design())),
+      model_(new GridModel(grid, this)),
+      heads_(new GridBand(Qt::Horizontal, ActionsOf(Pane::kHeads), this)),
+      labels_(new GridBand(Qt::Vertical, ActionsOf(Pane::kLabels), this)),
+      corner_(new GridCorner(ActionsOf(Pane::kCorner), this)),
+      sheet_(std::make_unique<GridSheet>(grid, logicalDpiX() / kTwipsPerInch)),
+      painter_(std::make_unique<GridPainter>(grid, *sheet_, font(), kPoints)),
+      note_(std::make_unique<EntryNote>(*this)) {
+  delegate_ = new GridDelegate(
+      grid, painter_->font(),
+      {.key = [this](QKeyEvent& event) { return EditorKey(event); },
+       .focus_lost = [this](Qt::FocusReason reason) { LeaveEditor(reason); },
+       .refuse = [this](const std::string& reason) { Tell(delegate_->cell(), reason); },
+       .commit =
+           [this] {
+             if (const Entry entry = Submit(); !entry.taken) Tell(delegate_->cell(), entry.reason);
+           }},
+      this);
+  SetUp();
+  connect(this, &QAbstractItemView::clicked, this, &GridView::ClickCell);
+  LayOut();
+  TakeOver();
+}
+
+GridView::~GridView() = default;
+
+void GridView::SetUp() {
+  setModel(model_);
+  setItemDelegate(delegate_);
+  setHorizontalHeader(heads_);
+  setVerticalHeader(labels_);
+  setCornerButtonEnabled(false);
+  setFrameShape(QFrame::NoFrame);
+  setShowGrid(false);
+  viewport()->setBackgroundRole(QPalette::Window);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setVerticalScrollMode(ScrollPerPixel);
+  setTabKeyNavigation(false);
+  setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+  setSelectionMode(list_ ? SingleSelection : ContiguousSelection);
+  setSelectionBehavior(list_ ? SelectRows : SelectItems);
+  setAccessibleName(TableName(grid_));
+}
+
+// ---- Looks ---------------------------------------------------------------------------------
+
+void GridView::TakeOver() {
+  if (grid_.revision() == taken_over_) return;
+  taken_over_ = grid_.revision();
+  const QScopedValueRollback following(following_, true);
+  model_->TakeOver();
+  GridSheet sheet(grid_, logicalDpiX() / kTwipsPerInch);
+  if (sheet != *sheet_) {
+    *sheet_ = std::move(sheet);
+    painter_ = std::make_unique<GridPainter>(grid_, *sheet_, font(), kPoints);
+    LayOut();
+  }
+  if (delegate_->editor() != nullptr && !committing_ &&
+      !grid_.IsOpen(delegate_->cell().column, delegate_->cell().row)) {
+    CloseEditor();
+  }
+  FollowActiveCell();
+  UpdatePanes();
+}
+
+void GridView::FollowActiveCell() {
+  const QModelIndex active = model_->IndexOf(Active());
+  if (active == currentIndex()) return;
+  if (list_) {
+    // A row that code went to is not one that the user chose, and must not look like it.
+    selectionModel()->setCurrentIndex(active, QItemSelectionModel::Clear);
+  } else {
+    setCurrentIndex(active);
+  }
+  scrollTo(active);
+}
+
+void GridView::LayOut() {
+  for (int column = 1; column <= sheet_->columns(); ++column) {
+    const int width = sheet_->X(column + 1) - sheet_->X(column);
+    setColumnHidden(column - 1, column <= sheet_->label_columns() || width == 0);
+    if (width > 0) setColumnWidth(column - 1, width);
+  }
+  for (int row = 1; row <= sheet_->rows(); ++row) {
+    const int height = sheet_->Y(row + 1) - sheet_->Y(row);
+    setRowHidden(row - 1, row <= sheet_->head_rows() || height == 0);
+    if (height > 0) setRowHeight(row - 1, height);
+  }
+  SetSpans();
+  heads_->SetThickness(sheet_->FrozenSize().height());
+  heads_->setVisible(sheet_->FrozenSize().height() > 0);
+  labels_->SetThickness(sheet_->FrozenSize().width());
+  labels_->setVisible(sheet_->FrozenSize().width() > 0);
+  setMaximumSize(sizeHint());
+  updateGeometry();
+  updateGeometries();
+}
+
+void GridView::SetSpans() {
+  clearSpans();
+  for (const CellRange& span : grid_.design().spans) {
+    const CellRange part = BodyPart(span, *sheet_);
+    const int columns = part.last_column - part.column + 1;
+    const int rows = part.last_row - part.row + 1;
+    if (columns < 1 || rows < 1 || columns * rows == 1) continue;
+    setSpan(part.row - 1, part.column - 1, rows, columns);
+  }
+}
+
+// The table itself and room for its scroll bars: beyond that a form's other parts may have it.
+QSize GridView::sizeHint() const {
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+  return sheet_->Size() + QSize(bar, bar);
+}
+
+QSize GridView::minimumSizeHint() const {
+  const int row = static_cast<int>(grid_.design().row_height * sheet_->units_per_twip());
+  const QSize frozen = sheet_->FrozenSize();
+  return sizeHint().boundedTo(frozen + QSize(12 * row, 5 * row));
+}
+
+void GridView::updateGeometries() {
+  QTableView::updateGeometries();
+  const QRect crossing(labels_->x(), heads_->y(), labels_->width(), heads_->height());
+  corner_->setGeometry(crossing);
+  corner_->setVisible(!heads_->isHidden() && !labels_->isHidden());
+  corner_->raise();
+}
+
+// The cursor was placed before the view had its size: what need not scroll shows its start.
+void GridView::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  scrollToTop();
+  scrollTo(model_->IndexOf(Active()));
+}
+
+void GridView::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  UpdatePanes();  // spans over the edge of the frozen part do not move with the rest
+}
+
+void GridView::UpdatePanes() {
+  viewport()->update();
+  heads_->viewport()->update();
+  labels_->viewport()->update();
+  corner_->update();
+}
+
+BandActions GridView::ActionsOf(Pane pane) {
+  return {.paint = [this, pane](QPainter& painter,
+                                const QRect& exposed) { PaintPane(pane, painter, exposed); },
+          .click = [this, pane](QPoint place) { ClickPane(pane, place); },
+          .wheel = [this](QWheelEvent& event) { QCoreApplication::sendEvent(viewport(), &event); }};
+}
+
+CellRange GridView::BlockOf(Pane pane) const {
+  const bool heads = pane == Pane::kHeads || pane == Pane::kCorner;
+  const bool labels = pane == Pane::kLabels || pane == Pane::kCorner;
+  return {labels ? 1 : sheet_->label_columns() + 1, heads ? 0 : sheet_->head_rows() + 1,
+          labels ? sheet_->label_columns() : sheet_->columns(),
+          heads ? sheet_->head_rows() : sheet_->rows()};
+}
+
+// Where the part begins, on the sheet before it is scrolled.
+QPoint GridView::OriginOf(Pane pane) const {
+  const CellRange block = BlockOf(pane);
+  return {sheet_->X(block.column), sheet_->Y(block.row)};
+}
+
+QPoint GridView::Scroll() const { return {horizontalOffset(), verticalOffset()}; }
+
+void GridView::PaintPane(Pane pane, QPainter& painter, const QRect& exposed) const {
+  const QPoint origin = OriginOf(pane);
+  const CellRange active = grid_.SpanOf(grid_.ActiveColumn(), grid_.ActiveRow());
+  const bool focused = hasFocus() || delegate_->editor() != nullptr;
+  const auto look_of = [&](Cell cell) {
+    const bool cursor = cell == Cell{active.column, active.row};
+    const bool selected = cell.row > 0 && selectionModel()->isSelected(model_->IndexOf(cell));
+    return CellLook{selected && (list_ || !cursor), cursor, focused};
+  };
+  painter.translate(-origin);
+  painter_->PaintBlock(painter, BlockOf(pane), Scroll(), exposed.translated(origin), look_of);
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  PaintPane(Pane::kBody, painter, event->rect());
+}
+
+}  // namespace survey

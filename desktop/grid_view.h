@@ -1,0 +1,113 @@
+#ifndef DESKTOP_GRID_VIEW_H_
+#define DESKTOP_GRID_VIEW_H_
+
+#include <QTableView>
+#include <memory>
+
+#include "forms/controls.h"
+
+namespace survey {
+
+class EntryNote;
+class GridBand;
+class GridCorner;
+class GridDelegate;
+class GridModel;
+class GridPainter;
+class GridSheet;
+struct BandActions;
+
+// Shows one survey table and takes the user's typing. It holds nothing of the survey: every
+// entry goes to the grid, and TakeOver() paints what the grid then holds.
+//
+// An entry runs a user action of the form from inside the view's own event: whoever ends the view
+// in such an action must do it by deleteLater().
+class GridView : public QTableView {
+  Q_OBJECT
+
+ public:
+  // `grid` must outlive the view.
+  explicit GridView(GridControl& grid, QWidget* parent = nullptr);
+  ~GridView() override;
+
+  // Takes over what has changed in the grid since the last call; cheap when nothing has.
+  void TakeOver();
+
+  // Makes an entry of what is being typed, so that Save, Print or a link do not lose it. False
+  // when the entry was refused: the typing then stays open and says why.
+  bool CommitEntry();
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+  void keyboardSearch(const QString& search) override;
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void updateGeometries() override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  // The parts of the view, with what scrolls in each.
+  enum class Pane { kBody, kHeads, kLabels, kCorner };
+
+  // ---- Looks
+  void SetUp();
+  void LayOut();
+  void SetSpans();
+  void UpdatePanes();
+  BandActions ActionsOf(Pane pane);
+  CellRange BlockOf(Pane pane) const;
+  QPoint OriginOf(Pane pane) const;
+  QPoint Scroll() const;
+  void PaintPane(Pane pane, QPainter& painter, const QRect& exposed) const;
+  void FollowActiveCell();
+
+  // ---- Typing
+  Entry Submit();
+  void CloseEditor();
+  void LeaveEditor(Qt::FocusReason reason);
+  bool EditorKey(QKeyEvent& event);
+  void Tell(Cell cell, const std::string& reason);
+
+  // ---- Keys and mouse outside the editor
+  bool GridKey(QKeyEvent& event);
+  bool ClipboardKey(QKeyEvent& event);
+  bool StartsRefused(const QKeyEvent& event);
+  void Step(bool back);
+  void Operate();
+  void ClickPane(Pane pane, QPoint place);
+  void ClickCell(const QModelIndex& index);
+  void Copy() const;
+  void Paste();
+  Cell Active() const { return {grid_.ActiveColumn(), grid_.ActiveRow()}; }
+  CellRange SelectedCells() const;
+  bool IsBox(Cell cell) const;
+
+  GridControl& grid_;
+  const bool list_;  // chosen from by rows, not typed into
+  GridModel* model_;
+  GridDelegate* delegate_;
+  GridBand* heads_;
+  GridBand* labels_;
+  GridCorner* corner_;
+  std::unique_ptr<GridSheet> sheet_;
+  std::unique_ptr<GridPainter> painter_;
+  std::unique_ptr<EntryNote> note_;
+  std::uint64_t taken_over_ = 0;  // revision of the grid
+  bool following_ = false;        // code moves the cursor, not the user
+  bool pressing_ = false;         // the mouse does
+  bool committing_ = false;
+  bool typing_over_ = false;  // the editor was opened by a key that replaces
+  QPoint released_at_;
+};
+
+}  // namespace survey
+
+#endif  // DESKTOP_GRID_VIEW_H_

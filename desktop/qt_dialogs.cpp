@@ -1,0 +1,81 @@
+#include "desktop/qt_dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include "desktop/pictures.h"
+#include "forms/message_boxes.h"
+
+namespace survey {
+namespace {
+
+constexpr int kPictureSize = 48;
+constexpr int kButtonsMask = 0xF;
+
+QString Title(const std::string& title) {
+  return QString::fromStdString(title.empty() ? kProgramName : title);
+}
+
+// "Database Files (*.mdb)|*.mdb" names each kind of file, then its pattern; the names hold the
+// pattern already.
+QString NameFilter(const std::string& filter) {
+  const QStringList parts = QString::fromStdString(filter).split('|');
+  QStringList names;
+  for (qsizetype i = 0; i < parts.size(); i += 2) names << parts[i];
+  return names.join(";;");
+}
+
+}  // namespace
+
+QtDialogs::QtDialogs(std::function<QWidget*()> window_in_front)
+    : window_in_front_(std::move(window_in_front)) {}
+
+int QtDialogs::ShowMessage(const MessageBox& box) {
+  QWidget* parent = window_in_front_();
+  QMessageBox message(parent);
+  message.setObjectName("MessageBox");
+  message.setWindowTitle(Title(box.title));
+  message.setTextFormat(Qt::PlainText);
+  message.setText(QString::fromStdString(box.prompt).replace("\r\n", "\n"));
+  if (box.picture != Picture::kNone) {
+    const qreal ratio = parent == nullptr ? qApp->devicePixelRatio() : parent->devicePixelRatioF();
+    message.setIconPixmap(BoxPicture(box.picture, kPictureSize, ratio));
+  } else if ((box.type & kIconMask) == kInformationIcon) {
+    message.setIcon(QMessageBox::Information);
+  }
+  if ((box.type & kButtonsMask) != kYesNo) {
+    message.setStandardButtons(QMessageBox::Ok);
+    message.exec();
+    return kAnswerOk;
+  }
+  message.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  message.setDefaultButton((box.type & kSecondButtonDefault) != 0 ? QMessageBox::No
+                                                                  : QMessageBox::Yes);
+  message.setEscapeButton(QMessageBox::No);
+  return message.exec() == QMessageBox::Yes ? kAnswerYes : kAnswerNo;
+}
+
+std::string QtDialogs::OpenFile(const std::string& filter) {
+  QFileDialog dialog(window_in_front_(), QObject::tr("Open"),
+                     QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                     NameFilter(filter));
+  dialog.setObjectName("OpenFileDialog");
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
+}
+
+std::string QtDialogs::InputBox(const std::string& prompt, const std::string& title) {
+  QInputDialog dialog(window_in_front_());
+  dialog.setObjectName("InputBox");
+  dialog.setWindowTitle(Title(title));
+  dialog.setLabelText(QString::fromStdString(prompt));
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return dialog.textValue().toStdString();
+}
+
+}  // namespace survey

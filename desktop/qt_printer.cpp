@@ -1,0 +1,175 @@
+#include "desktop/qt_printer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPrintDialog>
+#include <cmath>
+
+#include "desktop/grid_pages.h"
+#include "forms/message_boxes.h"
+#include "store/run_time_error.h"
+
+namespace survey {
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+constexpr double kTwipsPerPoint = 20;
+constexpr double kPrinterError = 482;  // the users' number for it
+
+QRect AreaOf(double left, double top, double right, double bottom) {
+  const auto whole = [](double twips) { return static_cast<int>(std::lround(twips)); };
+  return {QPoint(whole(left), whole(top)), QSize(whole(right - left), whole(bottom - top))};
+}
+
+QPageLayout::Orientation ToQt(Orientation orientation) {
+  return orientation == Orientation::kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
+}  // namespace
+
+QtPrinter::QtPrinter() : printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
+  printer_->setPageSize(QPageSize(QPageSize::A4));
+  printer_->setDocName(kProgramName);
+}
+
+QtPrinter::~QtPrinter() { Finish(); }
+
+void QtPrinter::Finish() {
+  painter_.reset();  // ends the job, completes a file
+  LeavePage();
+}
+
+void QtPrinter::ShowPrinter() {
+  Finish();
+  if (!answer_.isEmpty()) {
+    printer_->setOutputFormat(QPrinter::PdfFormat);
+    printer_->setOutputFileName(answer_);
+    return;
+  }
+  printer_->setPageOrientation(ToQt(orientation_));
+  QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+  if (dialog.exec() != QDialog::Accepted) throw CancelWasSelected();
+  orientation_ = printer_->pageLayout().orientation() == QPageLayout::Landscape
+                     ? Orientation::kLandscape
+                     : Orientation::kPortrait;
+}
+
+// ---- Pages ---------------------------------------------------------------------------------
+
+QSizeF QtPrinter::Sheet() const {
+  return printer_->pageLayout().pageSize().size(QPageSize::Point) * kTwipsPerPoint;
+}
+
+double QtPrinter::Width() {
+  const Orientation orientation = on_page_ ? page_orientation_ : orientation_;
+  return orientation == Orientation::kLandscape ? Sheet().height() : Sheet().width();
+}
+
+double QtPrinter::Height() {
+  const Orientation orientation = on_page_ ? page_orientation_ : orientation_;
+  return orientation == Orientation::kLandscape ? Sheet().width() : Sheet().height();
+}
+
+QPainter& QtPrinter::Page() {
+  if (!on_page_) BeginPage();
+  return *painter_;
+}
+
+void QtPrinter::BeginPage() {
+  // A file takes each page's orientation; a printer takes none while it works.
+  if (!painter_ || ToPdf()) printer_->setPageOrientation(ToQt(orientation_));
+  if (!painter_) {
+    BeginJob();
+  } else if (!printer_->newPage()) {
+    Fail();
+  }
+  on_page_ = true;
+  page_orientation_ = orientation_;
+  SetUpPage();
+}
+
+void QtPrinter::BeginJob() {
+  printer_->setFullPage(true);  // positions count from the corner of the paper
+  painter_ = std::make_unique<QPainter>();
+  if (!painter_->begin(printer_.get())) Fail();
+}
+
+// From here on a unit of the painter is a twip, also on a sheet that lies across the printer's.
+void QtPrinter::SetUpPage() {
+  painter_->resetTransform();
+  const double scale = printer_->resolution() / kTwipsPerInch;
+  painter_->scale(scale, scale);
+  const bool lies = printer_->pageLayout().orientation() == QPageLayout::Landscape;
+  const bool should_lie = page_orientation_ == Orientation::kLandscape;
+  if (should_lie && !lies) {
+    painter_->translate(Sheet().width(), 0);
+    painter_->rotate(90);
+  } else if (lies && !should_lie) {
+    painter_->translate(0, Sheet().width());
+    painter_->rotate(-90);
+  }
+}
+
+void QtPrinter::LeavePage() {
+  on_page_ = false;
+  x_ = y_ = 0;
+}
+
+// The next page is begun with what is printed next: none follows the last one blank.
+void QtPrinter::NewPage() { LeavePage(); }
+
+void QtPrinter::EndDoc() {
+  LeavePage();
+  if (painter_ && !ToPdf()) painter_.reset();
+}
+
+void QtPrinter::Fail() {
+  const bool to_file = !printer_->outputFileName().isEmpty();
+  const QString what =
+      to_file ? QStringLiteral(
+                    "The file \"%1\" cannot be written. Choose another folder or close "
+                    "the program that has it open.")
+                    .arg(QDir::toNativeSeparators(printer_->outputFileName()))
+              : QStringLiteral(
+                    "The printer \"%1\" does not print. Check that it is switched on and "
+                    "connected.")
+                    .arg(printer_->printerName());
+  if (painter_ && painter_->isActive()) printer_->abort();
+  Finish();
+  throw RunTimeError(kPrinterError, what.toStdString());
+}
+
+// ---- What is printed -----------------------------------------------------------------------
+
+void QtPrinter::SetFont(std::string_view name, double points, bool bold) {
+  font_ = QFont(QString::fromUtf8(name.data(), std::ssize(name)));
+  font_.setHintingPreference(QFont::PreferNoHinting);
+  font_.setPixelSize(static_cast<int>(std::lround(points * kTwipsPerPoint)));
+  font_.setBold(bold);
+}
+
+void QtPrinter::Print(std::string_view text) {
+  QPainter& painter = Page();
+  painter.setFont(font_);
+  painter.setPen(Qt::black);
+  const QFontMetricsF metrics(font_);
+  painter.drawText(QPointF(x_, y_ + metrics.ascent()),
+                   QString::fromUtf8(text.data(), std::ssize(text)));
+  x_ = 0;
+  y_ += metrics.height();
+}
+
+void QtPrinter::OwnerPrintDraw(const Grid& grid, double left, double top, double right,
+                               double bottom, int page) {
+  GridPages(grid, AreaOf(left, top, right, bottom)).Paint(Page(), page);
+}
+
+int QtPrinter::OwnerPrintPageCount(const Grid& grid, double left, double top, double right,
+                                   double bottom) {
+  return GridPages(grid, AreaOf(left, top, right, bottom)).count();
+}
+
+}  // namespace survey

@@ -1,0 +1,68 @@
+#ifndef DESKTOP_QT_PRINTER_H_
+#define DESKTOP_QT_PRINTER_H_
+
+#include <QFont>
+#include <QPainter>
+#include <QPrinter>
+#include <QString>
+#include <memory>
+
+#include "platform/printer.h"
+
+namespace survey {
+
+// Prints on what the user chooses in the print dialog. Each job goes to a printer by itself; to a
+// PDF file all jobs since the choice go one after the other, for a file that each job wrote anew
+// would hold the last one only.
+class QtPrinter : public Printer {
+ public:
+  QtPrinter();
+  ~QtPrinter() override;
+
+  // Answers the dialog from now on: all prints go into this PDF file. "" asks the user again.
+  void PrintToFile(const QString& path) { answer_ = path; }
+  // Completes what has been printed. To be called when the user's action has ended.
+  void Finish();
+
+  void ShowPrinter() override;
+  void SetFont(std::string_view name, double points, bool bold) override;
+  void SetFontBold(bool bold) override { font_.setBold(bold); }
+  void SetCurrentX(double x) override { x_ = x; }
+  void SetCurrentY(double y) override { y_ = y; }
+  void SetOrientation(Orientation orientation) override { orientation_ = orientation; }
+  void Print(std::string_view text) override;
+  double Width() override;
+  double Height() override;
+  void OwnerPrintDraw(const Grid& grid, double left, double top, double right, double bottom,
+                      int page) override;
+  int OwnerPrintPageCount(const Grid& grid, double left, double top, double right,
+                          double bottom) override;
+  void NewPage() override;
+  void EndDoc() override;
+
+ private:
+  // The painter on a page that is begun; begins one first where that is due.
+  QPainter& Page();
+  void BeginJob();
+  void BeginPage();
+  void SetUpPage();
+  void LeavePage();
+  [[noreturn]] void Fail();
+  bool ToPdf() const { return printer_->outputFormat() == QPrinter::PdfFormat; }
+  // Width and height of the sheet in twips, upright.
+  QSizeF Sheet() const;
+
+  QString answer_;
+  std::unique_ptr<QPrinter> printer_;
+  std::unique_ptr<QPainter> painter_;  // while something is being printed
+  QFont font_;
+  double x_ = 0;
+  double y_ = 0;
+  Orientation orientation_ = Orientation::kPortrait;       // of pages to come
+  Orientation page_orientation_ = Orientation::kPortrait;  // of the page that is begun
+  bool on_page_ = false;
+};
+
+}  // namespace survey
+
+#endif  // DESKTOP_QT_PRINTER_H_

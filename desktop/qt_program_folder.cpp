@@ -1,0 +1,31 @@
+#include "desktop/qt_program_folder.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace survey {
+namespace {
+
+// In the order in which they are looked for.
+constexpr const char* kSystemInformationViewers[] = {"msinfo32", "kinfocenter", "hardinfo2",
+                                                     "hardinfo"};
+
+}  // namespace
+
+QtProgramFolder::QtProgramFolder(std::filesystem::path in_place) : in_place_(std::move(in_place)) {}
+
+std::filesystem::path QtProgramFolder::Path() const {
+  if (!in_place_.empty()) return in_place_;
+  return QCoreApplication::applicationDirPath().toStdU16String();
+}
+
+bool QtProgramFolder::StartSystemInformation() {
+  for (const char* viewer : kSystemInformationViewers) {
+    const QString executable = QStandardPaths::findExecutable(viewer);
+    if (!executable.isEmpty() && QProcess::startDetached(executable, {})) return true;
+  }
+  return false;
+}
+
+}  // namespace survey

@@ -1,0 +1,250 @@
+#include <QAccessible>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QRadioButton>
+#include <QWheelEvent>
+
+#include "desktop_fixture.h"
+
+namespace survey::testing {
+namespace {
+
+// One control of each kind that no form of the program has in this state.
+class SampleForm : public Form {
+ public:
+  explicit SampleForm(Forms& forms) : Form(forms, "frmSample", "Sample") {
+    txtDigits.takes_key = [](char32_t key) { return key >= U'0' && key <= U'9'; };
+    cboSearch.on_key_press = [this](char32_t key) {
+      typed += static_cast<char>(key);
+      const std::string start =
+          cboSearch.Text().substr(0, cboSearch.SelectionStart) + static_cast<char>(key);
+      cboSearch.DroppedDown = true;
+      for (int i = 0; i < static_cast<int>(cboSearch.items().size()); ++i) {
+        if (!cboSearch.items()[i].text.starts_with(start)) continue;
+        cboSearch.SetListIndex(i);
+        cboSearch.SelectionStart = static_cast<int>(start.size());
+        cboSearch.SelectionLength =
+            static_cast<int>(cboSearch.Text().size()) - cboSearch.SelectionStart;
+        return;
+      }
+    };
+    cboChoice.on_got_focus = [this] { cboChoice.BackColor = kWhite; };
+    cmdCount.on_click = [this] { ++clicks; };
+    cmdCount.on_key_down = [this] { ++keys; };
+    lstNames.on_click = [this] { SetFocus(cmdCount); };
+  }
+  Layout Arrange() override {
+    return ColumnOf({FieldsOf({RowOf({Place(lblDigits), Place(txtDigits, 1)}),
+                               RowOf({Place(lblSearch), Place(cboSearch, 1)}),
+                               RowOf({Place(lblChoice), Place(cboChoice, 1)})}),
+                     RowOf({Place(optYes), Place(optNo)}), Place(lstNames), Place(cmdCount)});
+  }
+
+  Label lblDigits{*this, "lblDigits", "Digits:"};
+  TextBox txtDigits{*this, "txtDigits", ""};
+  Label lblSearch{*this, "lblSearch", "Search"};
+  ComboBox cboSearch{*this, "cboSearch", "Search"};
+  Label lblChoice{*this, "lblChoice", "Choice"};
+  ComboBox cboChoice{*this, "cboChoice", ""};
+  OptionButton optYes{*this, "optYes", "Yes", "answer"};
+  OptionButton optNo{*this, "optNo", "No", "answer"};
+  ListBox lstNames{*this, "lstNames", "Names"};
+  Button cmdCount{*this, "cmdCount", "Count"};
+  std::string typed;
+  int clicks = 0;
+  int keys = 0;
+
+ protected:
+  void Form_Load() override {
+    constexpr int kMany = 10000;
+    for (int i = 0; i < kMany; ++i) cboSearch.AddItem(std::to_string(100000 + i) + " entry", i);
+    for (const char* name : {"first", "second", "third"}) {
+      cboChoice.AddItem(name, 0);
+      lstNames.AddItem(name);
+    }
+    cboChoice.SetText("not in the list");
+    cboChoice.BackColor = kYellow;
+  }
+};
+
+class ControlViewTest : public DesktopTest {
+ protected:
+  ControlViewTest() {
+    desktop_->forms().Register("frmSample",
+                               [](Forms& forms) { return std::make_unique<SampleForm>(forms); });
+    desktop_->forms().Start("frmSample");
+  }
+  SampleForm& sample() { return dynamic_cast<SampleForm&>(desktop_->forms().Get("frmSample")); }
+};
+
+TEST_F(ControlViewTest, ATextBoxTakesWhatItsControlTakesAndKeepsTheCursor) {
+  auto& line = user_->The<QLineEdit>("txtDigits");
+  EXPECT_EQ(&user_->Focus(), &line) << "the first control";
+  user_->Type("1x9");
+  EXPECT_EQ(line.text(), "19");
+  line.setCursorPosition(1);
+  user_->Type("y23z");
+  EXPECT_EQ(sample().txtDigits.Text, "1239");
+  EXPECT_EQ(line.cursorPosition(), 3);
+  user_->Press(Qt::Key_Backspace);
+  EXPECT_EQ(line.text(), "1239") << "this box does not take the backspace";
+  user_->Press(Qt::Key_Delete);
+  EXPECT_EQ(line.text(), "123");
+}
+
+TEST_F(ControlViewTest, TypingAheadShowsTheTextAndSelectionOfTheControl) {
+  const QLineEdit& line = *user_->The<QComboBox>("cboSearch").lineEdit();
+  user_->Usable("cboSearch").setFocus();
+  user_->Type("1000");
+  EXPECT_EQ(sample().typed, "1000");
+  EXPECT_EQ(line.text(), "100000 entry");
+  EXPECT_EQ(line.selectedText(), "00 entry");
+  EXPECT_TRUE(user_->The<QComboBox>("cboSearch").view()->isVisible());
+  EXPECT_FALSE(sample().cboSearch.DroppedDown);
+  user_->Press(Qt::Key_Backspace);
+  EXPECT_EQ(line.selectedText(), "000 entry");
+  user_->Type("9");
+  EXPECT_EQ(line.text(), "100900 entry");
+  user_->Type("x");
+  EXPECT_EQ(line.text(), "100900 entry") << "a character that leads nowhere is dropped";
+  user_->Press(Qt::Key_Return);
+  EXPECT_EQ(sample().cboSearch.ListIndex(), 900);
+}
+
+TEST_F(ControlViewTest, AListToChooseFromKeepsItsTextUntilOneIsChosen) {
+  auto& box = user_->The<QComboBox>("cboChoice");
+  EXPECT_EQ(box.palette().color(QPalette::Button), QColor(Qt::yellow));
+  user_->Focus();
+  box.setFocus();
+  EXPECT_NE(box.palette().color(QPalette::Button), QColor(Qt::yellow));
+  user_->Type("st");
+  QWheelEvent wheel(QPointF(5, 5), box.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&box, &wheel);
+  EXPECT_EQ(sample().cboChoice.Text(), "not in the list");
+  user_->Press(Qt::Key_Down);
+  EXPECT_EQ(sample().cboChoice.Text(), "first");
+  user_->Choose("cboChoice", "third");
+  EXPECT_EQ(sample().cboChoice.Text(), "third");
+}
+
+TEST_F(ControlViewTest, OptionsExcludeEachOtherAndCanAllBeClear) {
+  user_->Click("optYes");
+  user_->Click("optNo");
+  user_->Click("optNo");
+  EXPECT_FALSE(user_->The<QRadioButton>("optYes").isChecked());
+  EXPECT_TRUE(user_->The<QRadioButton>("optNo").isChecked());
+  sample().optNo.SetValue(false);
+  desktop_->view().Refresh();
+  EXPECT_FALSE(user_->The<QRadioButton>("optNo").isChecked());
+}
+
+TEST_F(ControlViewTest, ListsAndButtonsWorkByKeyAndDisabledOnesDoNot) {
+  user_->Usable("lstNames").setFocus();
+  user_->Press(Qt::Key_Down);
+  EXPECT_EQ(sample().lstNames.SelectedText(), "first");
+  ASSERT_EQ(&user_->Focus(), &user_->Find("cmdCount")) << "where code put it";
+  user_->Press(Qt::Key_Return);
+  user_->Press(Qt::Key_Space);
+  EXPECT_EQ(sample().clicks, 2);
+  EXPECT_EQ(sample().keys, 2);
+  user_->ClickEntry("lstNames", "third");
+  EXPECT_EQ(sample().lstNames.ListIndex(), 2);
+
+  sample().cmdCount.Enabled = false;
+  sample().lstNames.Clear();
+  desktop_->view().Refresh();
+  EXPECT_THROW(user_->Click("cmdCount"), Mismatch);
+  EXPECT_EQ(user_->The<QListView>("lstNames").model()->rowCount(), 0);
+}
+
+TEST_F(ControlViewTest, ALabelNamesTheControlBesideIt) {
+  const QWidget& digits = user_->Find("txtDigits");
+  EXPECT_EQ(digits.accessibleName(), "Digits");
+  EXPECT_EQ(user_->The<QLabel>("lblDigits").buddy(), &digits);
+}
+
+// ---- All forms -----------------------------------------------------------------------------
+
+constexpr const char* kForms[] = {
+    "frmSelectDatabase",
+    "frmDatabase",
+    "frmSelectCollege",
+    "frmMainMenu",
+    "frmAbout",
+    "frmPage2",
+    "frmHostels",
+    "frmPage4",
+    "frmStudentTotal",
+    "frmPage3",
+    "frmPage5",
+    "frmPage6_1",
+    "frmPage8",
+    "frmPage9",
+    "frmPage9_1",
+    "frmOtherProgrammes",
+    "frmPage12_1",
+    "frmPage12_2",
+    "frmPage9_10",
+    "frmPage9_10_1",
+    "frmPage14",
+    "frmPage13",
+    "frmSelectEducator",
+    "frmEducatorData",
+    "frmEducatorTeaching",
+    "frmEducatorTeaching1",
+    "frmEducatorTeaching2",
+    "frmAddSubjects",
+    "frmLecQualifications1",
+    "frmLecQualifications2",
+    "frmAddQualification",
+};
+
+std::string SpokenName(QWidget& widget) {
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget);
+  return spoken == nullptr ? "" : spoken->text(QAccessible::Name).toStdString();
+}
+
+void ExpectNamedAndWhole(const Control& control, QWidget& widget) {
+  const auto* frame = qobject_cast<QGroupBox*>(&widget);
+  const bool is_border_alone = frame != nullptr && frame->title().isEmpty();
+  EXPECT_TRUE(is_border_alone || !SpokenName(widget).empty()) << control.ObjectName();
+  if (!widget.isVisible()) return;
+  if (const auto* label = qobject_cast<QLabel*>(&widget)) {
+    EXPECT_GE(label->height(), label->heightForWidth(label->width())) << control.ObjectName();
+    EXPECT_TRUE(label->wordWrap() || label->width() >= label->sizeHint().width())
+        << control.ObjectName();
+  } else if (const auto* button = qobject_cast<QPushButton*>(&widget)) {
+    EXPECT_GE(button->width(), button->sizeHint().width()) << control.ObjectName();
+    EXPECT_TRUE(control.name() != "cmdSave" || !button->visibleRegion().isEmpty())
+        << "Save is in view however long the page is";
+  }
+}
+
+TEST_F(DesktopTest, EveryControlHasANameAndIsShownWhole) {
+  OpenSiteAt("frmMainMenu");
+  desktop_->view().window().resize(1366, 700);
+  for (const char* name : kForms) {
+    if (!desktop_->forms().IsBuilt(name)) continue;
+    SCOPED_TRACE(name);
+    Form& form = desktop_->forms().Get(name);
+    form.EducatorId = "8001015009087";
+    form.FormMode = "New";
+    desktop_->forms().Start(name);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(Front(), name);
+    for (const Control* control : form.controls()) {
+      const auto* label = dynamic_cast<const Label*>(control);
+      const bool is_blank = label != nullptr && label->Caption.empty();
+      auto* widget =
+          user_->Front().findChild<QWidget*>(QString::fromStdString(control->ObjectName()));
+      if (widget != nullptr && !is_blank) ExpectNamedAndWhole(*control, *widget);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace survey::testing

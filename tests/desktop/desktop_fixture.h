@@ -1,0 +1,70 @@
+#ifndef TESTS_DESKTOP_DESKTOP_FIXTURE_H_
+#define TESTS_DESKTOP_DESKTOP_FIXTURE_H_
+
+#include <gtest/gtest.h>
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <memory>
+#include <string>
+
+#include "desktop_driver.h"
+#include "pages/register_pages.h"
+#include "shell/register_shell.h"
+#include "support/world.h"
+
+namespace survey::testing {
+
+// The whole program in a folder of its own, and a user before it.
+class DesktopTest : public ::testing::Test {
+ protected:
+  DesktopTest() {
+    std::filesystem::copy_file(TemplateFile(), folder_.path() / "CorvaleAnnualOstrel2012.mdb");
+    desktop_ = std::make_unique<Desktop>(DesktopPlaces{
+        folder_.path(), QString::fromStdString((folder_.path() / "settings.ini").string())});
+    RegisterShell(desktop_->forms());
+    RegisterPages(desktop_->forms());
+    QObject::connect(&desktop_->view(), &DesktopView::Ended, qApp, [this] { ended_ = true; });
+    user_ = std::make_unique<DesktopDriver>(*desktop_);
+  }
+
+  // A site of the template in a fresh database, with this form in front.
+  void OpenSiteAt(const std::string& form) {
+    const std::filesystem::path database = folder_.path() / "site.mdb";
+    std::filesystem::copy_file(TemplateFile(), database);
+    survey().DatabasePath = database.string();
+    survey().CollegeEmisNumber = 199010830;
+    survey().CampusEmisNumber = 108107587;
+    survey().SurveyYear = 2012;
+    survey().OpenDatabaseConnection();
+    desktop_->forms().Get("frmMainMenu").EditMode = "Edit";
+    desktop_->forms().Start(form);
+  }
+
+  // Waits for a box of this caption and text, and answers it.
+  void ExpectBox(const std::string& caption, const std::string& text, bool has_picture = true,
+                 const std::string& answer = "OK") {
+    user_->OnBox(
+        [=](QMessageBox& box) {
+          EXPECT_EQ(box.windowTitle().toStdString(), caption);
+          EXPECT_EQ(box.text().toStdString(), text);
+          EXPECT_EQ(!box.iconPixmap().isNull(), has_picture);
+        },
+        answer);
+  }
+
+  std::string Front() { return user_->Front().objectName().toStdString(); }
+  Survey& survey() { return desktop_->survey(); }
+  QColor ColorOf(const std::string& button) {
+    return user_->The<QPushButton>(button).palette().color(QPalette::Button);
+  }
+
+  TemporaryFolder folder_;
+  std::unique_ptr<Desktop> desktop_;
+  std::unique_ptr<DesktopDriver> user_;
+  bool ended_ = false;
+};
+
+}  // namespace survey::testing
+
+#endif  // TESTS_DESKTOP_DESKTOP_FIXTURE_H_

@@ -1,0 +1,157 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include "desktop_fixture.h"
+
+namespace survey::testing {
+namespace {
+
+TEST_F(DesktopTest, TheFirstFormAnswersAndEndsByItsCloseBox) {
+  desktop_->forms().Start("frmSelectDatabase");
+  EXPECT_EQ(desktop_->view().window().windowTitle(), "Corvale Annual Survey 2012 (Ostrel)");
+  ExpectBox("User Message", "You have no existing databases on this computer.");
+  user_->Click("chkExisting");
+  EXPECT_FALSE(user_->The<QCheckBox>("chkExisting").isChecked());
+
+  user_->Click("chkNew");
+  EXPECT_FALSE(user_->Find("lstFiles").isEnabled());
+  EXPECT_EQ(ColorOf("cmdContinue"), QColor(Qt::yellow));
+  EXPECT_EQ(user_->The<QPushButton>("cmdContinue").palette().color(QPalette::ButtonText),
+            QColor(Qt::black));
+  EXPECT_EQ(&user_->Focus(), &user_->Find("cmdContinue"));
+  user_->Click("chNetwork");
+  EXPECT_FALSE(user_->The<QCheckBox>("chkNew").isChecked());
+  user_->Click("chNetwork");
+  EXPECT_NE(ColorOf("cmdContinue"), QColor(Qt::yellow));
+
+  ExpectBox("User Message", "Please select a database to continue.");
+  user_->Click("cmdContinue");
+  desktop_->view().window().close();
+  EXPECT_TRUE(ended_);
+  EXPECT_FALSE(desktop_->view().window().isVisible());
+}
+
+TEST_F(DesktopTest, ANewDatabaseIsNamedInADialogOfItsOwn) {
+  std::filesystem::create_directory(folder_.path() / "Data2012");
+  std::filesystem::copy_file(TemplateFile(), folder_.path() / "Data2012" / "Taken.mdb");
+  desktop_->forms().Start("frmSelectDatabase");
+  user_->Click("chkNew");
+  user_->OnDialog([this](QWidget& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Create New Database");
+    EXPECT_EQ(&user_->Focus(), &user_->Find("txtDatabaseName"));
+    ExpectBox("Corvale Annual Survey", "Please enter a Database name.", false);
+    user_->Click("cmdOk");
+    EXPECT_EQ(&user_->Focus(), &user_->Find("txtDatabaseName"));
+    user_->Type("Taken");
+    ExpectBox("User Message", "This database name already exists. Please supply another name.");
+    user_->Click("cmdOk");
+    EXPECT_EQ(user_->The<QLineEdit>("txtDatabaseName").text(), "");
+    // ENTER goes on to the button, and presses it.
+    user_->Type("Free");
+    user_->Press(Qt::Key_Return);
+    user_->Press(Qt::Key_Enter);
+  });
+  user_->Press(Qt::Key_Return);
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  EXPECT_TRUE(std::filesystem::exists(folder_.path() / "Data2012" / "Free.mdb"));
+}
+
+TEST_F(DesktopTest, ADialogLeftByItsCloseBoxMakesNoDatabase) {
+  desktop_->forms().Start("frmSelectDatabase");
+  user_->Click("chkNew");
+  user_->OnDialog([](QWidget& dialog) { dialog.close(); });
+  ExpectBox("User Message", "Please select a database to continue.");
+  user_->Click("cmdContinue");
+  EXPECT_TRUE(ended_);
+}
+
+TEST_F(DesktopTest, ASiteIsChosenByProvinceCollegeAndCampus) {
+  OpenSiteAt("frmSelectCollege");
+  EXPECT_EQ(ColorOf("cmdAdd"), QColor(Qt::yellow));
+  user_->Click("cmdAdd");
+  EXPECT_TRUE(user_->Find("cboProvince").isVisible());
+  EXPECT_FALSE(user_->Find("cmdGeneral").isVisible()) << "its frame is hidden";
+  ExpectBox("User Message", "Please indicate if you are a central office or campus site");
+  user_->Choose("cboProvince", "Gauteng");
+
+  user_->Click("optCampus");
+  auto& province = user_->The<QComboBox>("cboProvince");
+  province.setFocus();
+  user_->Type("gw");  // letters do not choose
+  EXPECT_EQ(province.currentIndex(), -1);
+  QTest::keyClick(&province, Qt::Key_Down);
+  EXPECT_EQ(province.currentText(), "Eastern Cape");
+  EXPECT_GT(user_->The<QComboBox>("cboCollege").count(), 0) << "colleges follow at once";
+  user_->Choose("cboProvince", "Western Cape");
+  EXPECT_EQ(user_->The<QComboBox>("cboCollege").currentIndex(), -1);
+  user_->Choose("cboCollege", "Blouklip FET College");
+  user_->Choose("cboCampus", "Duinekop Campus");
+  EXPECT_EQ(user_->The<QLineEdit>("txtCamEmis").text(), "108107587");
+  EXPECT_TRUE(user_->The<QLineEdit>("txtCamEmis").isReadOnly());
+
+  user_->Click("cmdContinue");
+  EXPECT_FALSE(user_->Find("cboProvince").isVisible());
+  EXPECT_TRUE(user_->Find("cmdLearner(7)").isVisible());
+}
+
+TEST_F(DesktopTest, AnUnsavedPageAsksBeforeItIsLeft) {
+  OpenSiteAt("frmPage3");
+  EXPECT_NE(ColorOf("cmdSave"), QColor(Qt::yellow));
+  user_->Type("25");
+  user_->Press(Qt::Key_Return);
+  EXPECT_EQ(ColorOf("cmdSave"), QColor(Qt::yellow));
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    user_->OnDialog([&](QWidget& dialog) {
+      const auto& box = dynamic_cast<QMessageBox&>(dialog);
+      EXPECT_EQ(box.windowTitle(), "Data has NOT been Saved");
+      EXPECT_EQ(box.text(),
+                "You have NOT saved your data. Are you sure you want to exit without saving?");
+      EXPECT_FALSE(box.iconPixmap().isNull());
+      user_->Press(key);  // both are No
+    });
+    user_->Click("cmdMenu");
+    EXPECT_EQ(Front(), "frmPage3");
+    EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "25");
+  }
+  ExpectBox("Data has NOT been Saved",
+            "You have NOT saved your data. Are you sure you want to exit without saving?", true,
+            "Yes");
+  user_->Click("cmdMenu");
+  user_->Click("cmdLearner(7)");
+  EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "");
+}
+
+TEST_F(DesktopTest, SavingTakesWhatIsStillBeingTyped) {
+  OpenSiteAt("frmPage3");
+  user_->Type("31");
+  user_->Click("cmdSave");
+  EXPECT_NE(ColorOf("cmdSave"), QColor(Qt::yellow));
+  user_->Click("cmdMenu");
+  user_->Click("cmdLearner(7)");
+  EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "31");
+  // The close box asks nothing, and nothing was saved.
+  user_->Type("99");
+  user_->Press(Qt::Key_Return);
+  desktop_->view().window().close();
+  EXPECT_TRUE(ended_);
+}
+
+TEST_F(DesktopTest, AboutShowsTheWholeDisclaimerAndClosesByEsc) {
+  OpenSiteAt("frmMainMenu");
+  user_->OnDialog([this](QWidget& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "About Corvale Annual Survey");
+    const auto& text = user_->The<QLabel>("lblDisclaimer");
+    EXPECT_TRUE(text.text().startsWith("This product is supplied free of charge"));
+    EXPECT_GE(text.height(), text.heightForWidth(text.width()));
+    user_->Press(Qt::Key_Escape);
+  });
+  user_->Click("cmdDisclaimer");
+  EXPECT_EQ(Front(), "frmMainMenu");
+  EXPECT_FALSE(ended_);
+}
+
+}  // namespace
+}  // namespace survey::testing

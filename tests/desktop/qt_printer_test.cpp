@@ -1,0 +1,140 @@
+#include "desktop/qt_printer.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTimer>
+
+#include "grid/grid.h"
+#include "store/run_time_error.h"
+#include "support/world.h"
+
+namespace survey::testing {
+namespace {
+
+const GridDesign& LongDesign() {
+  static const GridDesign design = {.columns = 3,
+                                    .rows = 100,
+                                    .column_widths = {2000, 2000, 2000},
+                                    .row_height = 300,
+                                    .label_columns = 1,
+                                    .heads = {"Name", "Number", "Post"}};
+  return design;
+}
+
+class QtPrinterTest : public ::testing::Test {
+ protected:
+  QtPrinterTest() {
+    printer_.PrintToFile(file_);
+    printer_.ShowPrinter();
+    printer_.SetFont("Times New Roman", 12, true);
+  }
+
+  void PrintJob(const char* text) {
+    printer_.Print(text);
+    printer_.EndDoc();
+  }
+  // "595x842 842x595": the sheets of a complete file, in points.
+  std::string Sheets() {
+    QFile file(file_);
+    if (!file.open(QIODevice::ReadOnly)) return "no file";
+    const QString content = QString::fromLatin1(file.readAll());
+    if (!content.trimmed().endsWith("%%EOF")) return "not complete";
+    static const QRegularExpression sheet(R"(/MediaBox \[0 0 (\d+)\S* (\d+)\S*\])");
+    QStringList sheets;
+    for (auto found = sheet.globalMatch(content); found.hasNext();) {
+      const auto match = found.next();
+      sheets << match.captured(1) + "x" + match.captured(2);
+    }
+    return sheets.join(' ').toStdString();
+  }
+
+  TemporaryFolder folder_;
+  QString file_ = QString::fromStdString((folder_.path() / "survey.pdf").string());
+  QtPrinter printer_;
+};
+
+TEST_F(QtPrinterTest, GathersTheJobsOfOneChoiceInOneFile) {
+  PrintJob("one");
+  printer_.SetOrientation(Orientation::kLandscape);
+  EXPECT_NEAR(printer_.Width(), 16838, 20);
+  PrintJob("two");
+  printer_.Print("three");
+  printer_.NewPage();
+  printer_.Print("four");
+  printer_.NewPage();  // nothing follows, so no blank sheet
+  printer_.EndDoc();
+  printer_.Finish();
+  EXPECT_EQ(Sheets(), "595x842 842x595 842x595 842x595");
+
+  printer_.ShowPrinter();  // a new choice, the same file
+  PrintJob("five");
+  printer_.Finish();
+  EXPECT_EQ(Sheets(), "842x595") << "the orientation stays in force";
+}
+
+TEST_F(QtPrinterTest, NothingPrintedMakesNoFile) {
+  printer_.NewPage();
+  printer_.EndDoc();
+  printer_.Finish();
+  EXPECT_EQ(Sheets(), "no file");
+}
+
+TEST_F(QtPrinterTest, BreaksAGridBetweenRowsAndColumns) {
+  Grid grid(LongDesign());
+  // Room for the head and 33 rows.
+  EXPECT_EQ(printer_.OwnerPrintPageCount(grid, 300, 800, 11906, 800 + 300 * 34 + 299), 4);
+  // A third column does not fit beside the labels.
+  EXPECT_EQ(printer_.OwnerPrintPageCount(grid, 300, 800, 300 + 5999, 800 + 300 * 101), 2);
+  EXPECT_EQ(printer_.OwnerPrintPageCount(grid, 0, 0, 10, 10), 200) << "one row at least";
+  for (int row = 34; row <= 100; ++row) grid.SetRowHidden(row, true);
+  EXPECT_EQ(printer_.OwnerPrintPageCount(grid, 300, 800, 11906, 800 + 300 * 34), 1);
+  printer_.OwnerPrintDraw(grid, 300, 1200, printer_.Width(), printer_.Height(), 1);
+  printer_.EndDoc();
+  printer_.Finish();
+  EXPECT_EQ(Sheets(), "595x842");
+}
+
+TEST_F(QtPrinterTest, SaysThatAFileCannotBeWritten) {
+  const QString nowhere = QString::fromStdString((folder_.path() / "none" / "x.pdf").string());
+  printer_.PrintToFile(nowhere);
+  printer_.ShowPrinter();
+  try {
+    printer_.Print("lost");
+    FAIL() << "printed into a folder that does not exist";
+  } catch (const RunTimeError& failure) {
+    EXPECT_EQ(failure.number(), 482);
+    EXPECT_NE(std::string(failure.what()).find("x.pdf"), std::string::npos);
+  }
+  printer_.PrintToFile(file_);
+  printer_.ShowPrinter();
+  PrintJob("after a failure");
+  printer_.Finish();
+  EXPECT_EQ(Sheets(), "595x842");
+}
+
+TEST_F(QtPrinterTest, CancelPrintsNothing) {
+  printer_.PrintToFile("");
+  bool asked = false;
+  QTimer cancel;
+  QObject::connect(&cancel, &QTimer::timeout, qApp, [&] {
+    if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+      asked = true;
+      dialog->reject();
+    }
+  });
+  cancel.start(20);
+  try {
+    printer_.ShowPrinter();
+    FAIL() << "went on after Cancel";
+  } catch (const RunTimeError& failure) {
+    EXPECT_EQ(failure.number(), 32755);
+  }
+  EXPECT_TRUE(asked);
+}
+
+}  // namespace
+}  // namespace survey::testing
