@@ -44,8 +44,9 @@ double ResidentMebibytes() {
   return 0;
 }
 
-// Everything painted that waits to be.
+// Everything painted that waits to be, and gone what a running event loop would have let go.
 void Settle(QWidget& window) {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QApplication::processEvents();
   window.repaint();
   QApplication::processEvents();

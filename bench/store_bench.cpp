@@ -169,5 +169,102 @@ BENCHMARK_CAPTURE(LoadTable, 2_5, "frmPage3", "gridEnrolment", kNoIndex)
     ->UseManualTime()
     ->Unit(benchmark::kMicrosecond);
 
+BENCHMARK_CAPTURE(SaveTable, 3_16, "frmPage9_10", "gridPage9_1", kNoIndex)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+// ---- A database of the whole country ---------------------------------------------------------
+
+// As many other sites, each with a full table 2.5 and tables 3.5 to 3.10.
+void FillSites(World& world, int sites) {
+  const std::string script =
+      "create temp table site as with recursive n(i) as (select 1 union all select i + 1 from n "
+      "where i < " +
+      std::to_string(sites) +
+      ") select i from n;"
+      "create temp table digit as with recursive n(i) as (select 1 union all select i + 1 from n "
+      "where i < 7) select i from n;"
+      "create temp table code as with recursive n(i) as (select 1 union all select i + 1 from n "
+      "where i < 19) select i from n;"
+      "insert into tbl_StudentRegistration select 1000 + s.i, 5000 + s.i, c.i, d.i, g.i, 2012, 7 "
+      "from site s, code c, digit d, digit g where c.i < 17 and g.i < 3;"
+      "insert into tbl_StudentPopulationGroupNCV select 1000 + s.i, 5000 + s.i, 8 + l.i, c.i, d.i, "
+      "g.i, 2012, 7 from site s, code c, digit d, digit g, digit l "
+      "where d.i < 6 and g.i < 3 and l.i < 4;"
+      "insert into tbl_StudentPopulationGroup191 select 1000 + s.i, 5000 + s.i, 3 + l.i, c.i, d.i, "
+      "g.i, 2012, 7 from site s, code c, digit d, digit g, digit l "
+      "where c.i < 7 and d.i < 6 and g.i < 3 and l.i < 4;";
+  world.RunScript(("begin;" + script + "commit").c_str());
+}
+
+// A page among many sites against the same page among one other.
+void ShowAmongSites(benchmark::State& state, const char* form) {
+  Program one;
+  Program many;
+  FillSites(one, 1);
+  FillSites(many, static_cast<int>(state.range(0)));
+  const auto show = [form](Program& program) {
+    program.forms.Start(form);
+    program.forms.Unload(program.forms.Get(form));
+  };
+  for (Program* program : {&one, &many}) show(*program);
+  Compare(
+      state, [&] { show(many); }, [&] { show(one); });
+}
+BENCHMARK_CAPTURE(ShowAmongSites, one_control_total, "frmPage8")
+    ->Arg(300)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ShowAmongSites, three_control_totals, "frmPage6_1")
+    ->Arg(300)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+// ---- Long lists ------------------------------------------------------------------------------
+
+void StaffList(benchmark::State& state) {
+  Program program;
+  program.RunScript(
+      "insert into tbl_StaffDetail(CollegeEmisNumber, CampusEmisNumber, Surname, Initials, "
+      "IDNumber)"
+      " with recursive n(i) as (select 1 union all select i + 1 from n where i < 1000) "
+      "select 101, 202, 'SURNAME ' || (i * 7919 % 1000), 'A', 'ID' || i from n");
+  program.forms.Start("frmSelectEducator");
+  Form& list = program.forms.Get("frmSelectEducator");
+  for (auto _ : state) list.Form_Activate();
+}
+BENCHMARK(StaffList)->Unit(benchmark::kMicrosecond);
+
+void SubjectSearch(benchmark::State& state) {
+  Program program;
+  program.RunScript(
+      "insert into lst_Subject(SubjectCode, Description, Programme) "
+      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
+      "select 'C' || i, 'Subject of number ' || i, 'NSC' from n");
+  program.forms.Start("frmEducatorTeaching");
+  program.The<TextBox>("frmEducatorTeaching", "txtSearch").Enter("of number 99");
+  for (auto _ : state) {
+    program.The<TextBox>("frmEducatorTeaching", "txtSearch").Enter("of number 99");
+    program.Click("frmEducatorTeaching", "cmdGo");
+    program.dialogs.seen.clear();  // the first hit stands in the table already
+  }
+}
+BENCHMARK(SubjectSearch)->Unit(benchmark::kMicrosecond);
+
+void TypeAhead(benchmark::State& state) {
+  Program program;
+  program.RunScript(
+      "insert into lst_OccupationalQualification(NQFID, QualificationTitle, NQFField, NQFLevel) "
+      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
+      "select 900000 + i, 'Certificate ' || i, 1, 'Level 2' from n");
+  program.forms.Start("frmPage12_1");
+  ComboBox& combo = program.The<ComboBox>("frmPage12_1", "cboSelect");
+  for (auto _ : state) {
+    combo.SetText("90999");
+    combo.KeyPress('9');
+  }
+}
+BENCHMARK(TypeAhead)->Unit(benchmark::kMicrosecond);
+
 }  // namespace
 }  // namespace survey::bench
