@@ -1,0 +1,19 @@
+#ifndef PAGES_STAFF_FRMLECQUALIFICATIONS1_H_
+#define PAGES_STAFF_FRMLECQUALIFICATIONS1_H_
+
+#include "pages/staff/qualification_page.h"
+
+namespace survey {
+
+// Qualification types 1 to 29.
+class FrmLecQualifications1 : public QualificationPage {
+ public:
+  explicit FrmLecQualifications1(Forms& forms);
+
+ protected:
+  QualificationDetails DetailsToSave() const override { return {"", "0", 0}; }
+};
+
+}  // namespace survey
+
+#endif  // PAGES_STAFF_FRMLECQUALIFICATIONS1_H_

@@ -1,0 +1,213 @@
+#include "pages/staff/frmSelectEducator.h"
+
+#include "store/text.h"
+
+namespace survey {
+namespace {
+
+constexpr int kRows = 200;
+constexpr int kNameColumn = 1;
+constexpr int kIdColumn = 2;
+
+// Users have always read these names in the box.
+constexpr ErrorName kLoadRoutine = {"frmSelectSchool", "Load Schools Routine"};
+constexpr ErrorName kDeleteRoutine = {"Delete Function", " cmddelete Educator"};
+
+const GridDesign& StaffListDesign() {
+  static const GridDesign design = {
+      .columns = 4,
+      .rows = kRows,
+      .column_widths = {4800, 2100, 2100, 2200},
+      .row_height = 270,
+      .heads = {"Name of Staff Member", "ID Number", "Persal Number", "Employee Number"},
+      .locked_color = kWhite,
+      .title = "Staff members of this site",
+  };
+  return design;
+}
+
+// An ID number is the key of all tables of the staff. Only the staff member's own record is
+// changed whatever its year, and is then one of the current survey.
+struct IdCorrection {
+  const char* opening;
+  bool of_any_year = false;
+};
+
+// clang-format off
+constexpr IdCorrection kIdCorrections[] = {
+    {"update tbl_lecturercontactmonth set Idnumber = '"},
+    {"update tbl_lecturerqualificationsubject set Idnumber = '"},
+    {"update  tbl_lecturerteachingfields set Idnumber = '"},
+    {"update  tbl_lecturerteachingsubject set Idnumber = '"},
+    {"update  tbl_staffdetail set Idnumber = '", true},
+    {"update  tbl_staffqualificationtype set Idnumber = '"},
+    {"update tbl_stafftraining set Idnumber = '"},
+};
+// clang-format on
+
+}  // namespace
+
+FrmSelectEducator::FrmSelectEducator(Forms& forms)
+    : Form(forms, "frmSelectEducator", "Staff List"),
+      gridEducator(*this, "gridEducator", StaffListDesign()) {
+  txtNumber.Locked = true;
+  cmdSpecialisation.ToolTip = "Subject Majors";
+  gridEducator.on_click = [this](int, int row) {
+    if (row == 0) return;
+    SelectedStaffId = gridEducator.GetText(kIdColumn, row);
+    SelectedStaffName = gridEducator.GetText(kNameColumn, row);
+  };
+  cmdAddNew.on_click = [this] { AddNew(); };
+  cmdDelete.on_click = [this] { Delete(); };
+  cmdUpdateID.on_click = [this] { UpdateID(); };
+  for (Button* button : {&cmdEdit, &cmdSpecialisation, &cmdStaffteaching, &cmdLoad, &cmdLoad2}) {
+    button->on_click = [this, button] { OpenPageOfSelected(*button); };
+  }
+  for (Button* button : {&cmdPrint, &cmdPrintSurvey}) {
+    button->on_click = [this] { CanShow("the printed survey"); };
+  }
+  cmdPrevious.on_click = [this] { FollowLink(cmdPrevious); };
+  cmdMenu.on_click = [this] {
+    this->forms().Get("frmMainMenu").EditMode = "Edit";
+    FollowLink(cmdMenu);
+  };
+}
+
+Layout FrmSelectEducator::Arrange() {
+  return ColumnOf(
+      {Place(lblAdvice), RowOf({Place(lblSelect), Space(), Place(lblNumber), Place(txtNumber)}),
+       RowOf({Place(gridEducator, 1),
+              ColumnOf({Place(cmdAddNew), Place(cmdEdit), Place(cmdDelete), Place(cmdUpdateID),
+                        Place(cmdSpecialisation), Place(cmdStaffteaching), Place(cmdLoad),
+                        Place(cmdLoad2), Space(), Place(cmdPrint), Place(chAll),
+                        Place(cmdPrintSurvey)})},
+             1),
+       RowOf({Place(cmdPrevious), Place(cmdMenu), Space()})});
+}
+
+void FrmSelectEducator::Form_Load() {
+  Caption = survey().SurveyCaption("Staff List");
+  survey().OpenDatabaseConnection();
+  SelectedStaffId.reset();
+  for (int row = 2; row <= kRows; ++row) gridEducator.SetRowHidden(row, true);
+}
+
+void FrmSelectEducator::Form_Activate() {
+  LoadSchools();
+  SelectedStaffId.reset();
+}
+
+// ---- The list --------------------------------------------------------------------------------
+
+void FrmSelectEducator::LoadSchools() {
+  Trap(kLoadRoutine, [this] {
+    gridEducator.ClearRange(1, 1, gridEducator.MaxColumns(), kRows);
+    Recordset staff;
+    staff.Open(
+        "Select IDNumber,Initials,Surname,PersalNo,employeenumber from tbl_staffdetail where "
+        "collegeEmisNumber =" +
+            NumberText(survey().CollegeEmisNumber) + " and campusemisnumber = " +
+            NumberText(survey().CampusEmisNumber) + " order by surname",
+        survey().DatabaseConnection.get());
+    txtNumber.Text = NumberText(staff.RecordCount());
+    // Who comes behind the last row is counted and not listed.
+    for (int row = 1; !staff.Eof() && row <= kRows; staff.MoveNext(), ++row) ShowRow(staff, row);
+  });
+}
+
+void FrmSelectEducator::ShowRow(const Recordset& member, int row) {
+  gridEducator.SetText(kNameColumn, row,
+                       member.Field("Surname").Text() + "  " + member.Field("Initials").Text());
+  gridEducator.SetText(kIdColumn, row, member.Field("IDnumber").Text());
+  gridEducator.SetText(3, row, member.Field("PersalNo").Text());
+  gridEducator.SetText(4, row, member.Field("employeenumber").Text());
+  gridEducator.SetRowHidden(row, false);
+}
+
+// ---- The staff pages -------------------------------------------------------------------------
+
+void FrmSelectEducator::OpenPageOfSelected(const Button& button) {
+  if (!SelectedStaffId) {
+    boxes().UserMessage("Please select a staff member to continue");
+    return;
+  }
+  EducatorId = *SelectedStaffId;
+  EmisNumber = survey().CollegeEmisNumber;
+  if (&button == &cmdEdit) forms().Get("frmEducatorData").FormMode = "Edit";
+  FollowLink(button);
+}
+
+void FrmSelectEducator::AddNew() {
+  const std::string id =
+      forms().platform().dialogs.InputBox("Please enter the ID number of the Staff Member", "");
+  if (id.empty()) {
+    boxes().UserMessage("You must enter an ID number to continue");
+    return;
+  }
+  EducatorId = id;
+  EmisNumber = survey().CollegeEmisNumber;
+  forms().Get("frmEducatorData").FormMode = StaffIdExists(id) ? "Edit" : "New";
+  FollowLink(cmdAddNew);
+}
+
+// Anywhere, so that who comes from another site or was removed comes with the old details.
+bool FrmSelectEducator::StaffIdExists(const std::string& id) {
+  Recordset found;
+  found.Open("select idnumber from tbl_staffdetail where idnumber = '" + SqlEscape(id) + "'",
+             survey().DatabaseConnection.get());
+  return !found.Eof();
+}
+
+// ---- Removal and correction ------------------------------------------------------------------
+
+// The record stays, at no college; so do all others of the staff member.
+void FrmSelectEducator::Delete() {
+  if (!SelectedStaffId) {
+    boxes().UserMessage("Please select a staff member to remove from this campus");
+    return;
+  }
+  if (!boxes().UserQuestion("Are you sure you want to remove " + *SelectedStaffId +
+                            " from this campus?")) {
+    return;
+  }
+  const bool removed = Trap(kDeleteRoutine, [this] {
+    survey().Execute("Update tbl_staffdetail set CollegeEmisNumber = 0 where IDNumber ='" +
+                     *SelectedStaffId + "'");
+  });
+  if (!removed) return;
+  SelectedStaffId = "";
+  LoadSchools();
+}
+
+void FrmSelectEducator::UpdateID() {
+  if (SelectedStaffId.value_or("").empty()) {
+    boxes().UserMessage("You must select a staff member to continue.");
+    return;
+  }
+  const std::string new_id = forms().platform().dialogs.InputBox(
+      "Enter the correct ID number for " + SelectedStaffName, "Staff member: " + *SelectedStaffId);
+  if (new_id.empty()) {
+    boxes().UserMessage("You have not entered a new ID number for the staff member");
+  } else {
+    CorrectID(SqlEscape(*SelectedStaffId), SqlEscape(new_id));
+  }
+  SelectedStaffId.reset();
+  LoadSchools();
+}
+
+// Nothing keeps the new number from being somebody's already; the two are then one.
+void FrmSelectEducator::CorrectID(const std::string& old_id, const std::string& new_id) {
+  const std::string year = NumberText(survey().SurveyYear);
+  for (const IdCorrection& correction : kIdCorrections) {
+    std::string statement = correction.opening + new_id;
+    if (correction.of_any_year) {
+      statement += "',surveyyear = " + year + " WHERE IDNumber = '" + old_id + "'";
+    } else {
+      statement += "' WHERE IDNumber = '" + old_id + "' and surveyyear = " + year;
+    }
+    survey().Execute(statement);
+  }
+  survey().EndStatements();
+}
+
+}  // namespace survey

@@ -1,0 +1,64 @@
+#ifndef PAGES_STAFF_QUALIFICATION_PAGE_H_
+#define PAGES_STAFF_QUALIFICATION_PAGE_H_
+
+#include <string>
+#include <vector>
+
+#include "pages/staff/staff_page.h"
+#include "store/recordset.h"
+
+namespace survey {
+
+// A qualification to tick: its row in the grid, its code, its name.
+struct Qualification {
+  int row;
+  int code;
+  const char* name;
+};
+
+// What tells the two halves of question 4.25 apart.
+struct QualificationList {
+  std::vector<Qualification> rows;
+  GridDesign design;        // all but the rows above, which WithRows adds
+  const char* remove;       // up to the ID number
+  const char* remove_tail;  // from behind it up to the survey year; keeps to this half's codes
+};
+
+// `list` with its rows in the design: code, name and the box to tick.
+QualificationList WithRows(QualificationList list);
+
+// What is stored with each ticked qualification. Texts are ready to stand between quotes.
+struct QualificationDetails {
+  std::string trade;
+  std::string other;
+  int workplace_experience = 0;
+};
+
+// Question 4.25: the qualifications that a staff member has attained, one page twice over. Both
+// follow the person: they read and replace what was stored from any site. Neither says a word
+// when reading or storing fails.
+class QualificationPage : public StaffPage {
+ public:
+  GridControl gridQual;
+
+ protected:
+  // `list` is complete and outlives the page.
+  QualificationPage(Forms& forms, std::string name, const PageCaptions& captions,
+                    const QualificationList& list);
+
+  void Form_Load() override;
+  Layout Body() override;
+  void GetPage() override;
+  void SavePage() override;
+
+  // What a half shows of a stored qualification besides its tick.
+  virtual void ShowDetails(const Recordset&) {}
+  virtual QualificationDetails DetailsToSave() const = 0;
+
+ private:
+  const QualificationList& list_;
+};
+
+}  // namespace survey
+
+#endif  // PAGES_STAFF_QUALIFICATION_PAGE_H_
