@@ -116,6 +116,7 @@ void DesktopView::RunModal(Form& form) {
   FormDialog dialog(form, FrontWindow());
   dialogs_.push_back(&dialog);
   dialog.TakeOver();
+  dialog.resize(dialog.sizeHint());  // left alone it takes two thirds of the screen at most
   dialog.exec();
   // The whole desktop may be closing under an open dialog.
   if (form.loaded()) forms_.CloseBox(form);

@@ -168,7 +168,8 @@ bool FormWidget::CommitEntries() {
 QSize FormWidget::sizeHint() const {
   int width = kDialogWidth;
   for (const QWidget* block : blocks_) {
-    width = std::max(width, block->parentWidget()->sizeHint().width());
+    const QWidget& place = *block->parentWidget();
+    width = std::max({width, place.sizeHint().width(), place.minimumSizeHint().width()});
   }
   int height = 0;
   for (const QWidget* block : blocks_) {
