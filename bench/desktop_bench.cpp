@@ -17,7 +17,7 @@
 #include "forms/page_chain.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
-#include "support/world.h"
+#include "world.h"
 
 namespace survey::bench {
 namespace {

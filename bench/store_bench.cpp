@@ -15,7 +15,7 @@
 
 #include "pages/register_pages.h"
 #include "store/dialect.h"
-#include "support/world.h"
+#include "world.h"
 
 namespace survey::bench {
 namespace {

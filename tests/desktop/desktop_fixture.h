@@ -11,7 +11,7 @@
 #include "desktop_driver.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
-#include "support/world.h"
+#include "world.h"
 
 namespace survey::testing {
 

@@ -1,5 +1,6 @@
 #include "desktop/qt_printer.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -10,20 +11,15 @@
 
 #include "grid/grid.h"
 #include "store/run_time_error.h"
-#include "support/world.h"
+#include "world.h"
 
 namespace survey::testing {
 namespace {
 
-const GridDesign& LongDesign() {
-  static const GridDesign design = {.columns = 3,
-                                    .rows = 100,
-                                    .column_widths = {2000, 2000, 2000},
-                                    .row_height = 300,
-                                    .label_columns = 1,
-                                    .heads = {"Name", "Number", "Post"}};
-  return design;
-}
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::Property;
+using ::testing::Throws;
 
 class QtPrinterTest : public ::testing::Test {
  protected:
@@ -37,8 +33,9 @@ class QtPrinterTest : public ::testing::Test {
     printer_.Print(text);
     printer_.EndDoc();
   }
-  // "595x842 842x595": the sheets of a complete file, in points.
+  // "595x842 842x595": the sheets of the file once it is completed, in points.
   std::string Sheets() {
+    printer_.Finish();
     QFile file(file_);
     if (!file.open(QIODevice::ReadOnly)) return "no file";
     const QString content = QString::fromLatin1(file.readAll());
@@ -67,24 +64,27 @@ TEST_F(QtPrinterTest, GathersTheJobsOfOneChoiceInOneFile) {
   printer_.Print("four");
   printer_.NewPage();  // nothing follows, so no blank sheet
   printer_.EndDoc();
-  printer_.Finish();
   EXPECT_EQ(Sheets(), "595x842 842x595 842x595 842x595");
 
   printer_.ShowPrinter();  // a new choice, the same file
   PrintJob("five");
-  printer_.Finish();
   EXPECT_EQ(Sheets(), "842x595") << "the orientation stays in force";
 }
 
 TEST_F(QtPrinterTest, NothingPrintedMakesNoFile) {
   printer_.NewPage();
   printer_.EndDoc();
-  printer_.Finish();
   EXPECT_EQ(Sheets(), "no file");
 }
 
 TEST_F(QtPrinterTest, BreaksAGridBetweenRowsAndColumns) {
-  Grid grid(LongDesign());
+  const GridDesign design = {.columns = 3,
+                             .rows = 100,
+                             .column_widths = {2000, 2000, 2000},
+                             .row_height = 300,
+                             .label_columns = 1,
+                             .heads = {"Name", "Number", "Post"}};
+  Grid grid(design);
   // Room for the head and 33 rows.
   EXPECT_EQ(printer_.OwnerPrintPageCount(grid, 300, 800, 11906, 800 + 300 * 34 + 299), 4);
   // A third column does not fit beside the labels.
@@ -94,7 +94,6 @@ TEST_F(QtPrinterTest, BreaksAGridBetweenRowsAndColumns) {
   EXPECT_EQ(printer_.OwnerPrintPageCount(grid, 300, 800, 11906, 800 + 300 * 34), 1);
   printer_.OwnerPrintDraw(grid, 300, 1200, printer_.Width(), printer_.Height(), 1);
   printer_.EndDoc();
-  printer_.Finish();
   EXPECT_EQ(Sheets(), "595x842");
 }
 
@@ -102,17 +101,12 @@ TEST_F(QtPrinterTest, SaysThatAFileCannotBeWritten) {
   const QString nowhere = QString::fromStdString((folder_.path() / "none" / "x.pdf").string());
   printer_.PrintToFile(nowhere);
   printer_.ShowPrinter();
-  try {
-    printer_.Print("lost");
-    FAIL() << "printed into a folder that does not exist";
-  } catch (const RunTimeError& failure) {
-    EXPECT_EQ(failure.number(), 482);
-    EXPECT_NE(std::string(failure.what()).find("x.pdf"), std::string::npos);
-  }
+  EXPECT_THAT([this] { printer_.Print("lost"); },
+              Throws<RunTimeError>(AllOf(Property(&RunTimeError::number, 482),
+                                         Property(&RunTimeError::what, HasSubstr("x.pdf")))));
   printer_.PrintToFile(file_);
   printer_.ShowPrinter();
   PrintJob("after a failure");
-  printer_.Finish();
   EXPECT_EQ(Sheets(), "595x842");
 }
 
@@ -127,12 +121,8 @@ TEST_F(QtPrinterTest, CancelPrintsNothing) {
     }
   });
   cancel.start(20);
-  try {
-    printer_.ShowPrinter();
-    FAIL() << "went on after Cancel";
-  } catch (const RunTimeError& failure) {
-    EXPECT_EQ(failure.number(), 32755);
-  }
+  EXPECT_THAT([this] { printer_.ShowPrinter(); },
+              Throws<RunTimeError>(Property(&RunTimeError::number, 32755)));
   EXPECT_TRUE(asked);
 }
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/world.h"
+#include "world.h"
 
 namespace survey::testing {
 namespace {

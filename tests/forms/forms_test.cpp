@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/page_chain.h"
-#include "support/world.h"
+#include "world.h"
 
 namespace survey::testing {
 namespace {
@@ -42,7 +42,6 @@ class Probe : public Form {
   std::function<void(Probe&)> act;
   std::function<void()> activate;
   using Form::Trap;
-  using Form::TrapSilently;
 
  protected:
   void Form_Load() override { events.push_back(name() + " load"); }
@@ -52,10 +51,11 @@ class Probe : public Form {
 class Host : public World, public ::testing::Test {
  protected:
   Host() {
-    events.clear();
     for (const char* name : {"A", "B", "M"}) {
       forms.Register(name, [name](Forms& host) { return std::make_unique<Probe>(host, name); });
     }
+    forms.Start("A");
+    events.clear();
   }
   Probe& P(const std::string& name) { return dynamic_cast<Probe&>(forms.Get(name)); }
   void Do(const std::string& name, std::function<void(Probe&)> act) {
@@ -65,21 +65,17 @@ class Host : public World, public ::testing::Test {
 };
 
 TEST_F(Host, AFormIsActivatedOnceTheHandlerThatShowedItHasEnded) {
-  forms.Start("A");
   Do("A", [this](Probe& a) {
     forms.Show("B");
     forms.Unload(a);
     events.push_back("handler ends");
   });
-  EXPECT_THAT(events, ElementsAre("A load", "A activate", "B load", "A unload", "handler ends",
-                                  "B activate"));
+  EXPECT_THAT(events, ElementsAre("B load", "A unload", "handler ends", "B activate"));
   forms.CloseBox(P("B"));
   EXPECT_TRUE(forms.Ended());
 }
 
 TEST_F(Host, AModalFormStopsItsCallerAndActivatesTheFormBeneathWhenItCloses) {
-  forms.Start("A");
-  events.clear();
   modal_scripts.push_back([this](Form& modal) {
     EXPECT_TRUE(forms.IsModal(modal));
     dialogs.answers = {kAnswerYes};
@@ -94,47 +90,38 @@ TEST_F(Host, AModalFormStopsItsCallerAndActivatesTheFormBeneathWhenItCloses) {
 }
 
 TEST_F(Host, ControlsReturnToTheirDesignAtEachLoadAndPropertiesStay) {
-  forms.Start("A");
   Probe& a = P("A");
-  Do("A", [](Probe& form) {
-    form.cmdSave.BackColor = kYellow;
-    form.txt.Text = "typed";
-    form.chk.SetValue(true);
-    form.cbo.AddItem("item", 1);
-    form.cmdSave.Enabled = false;
-    form.Caption = "other";
-    form.EducatorId = "123";
-  });
+  a.cmdSave.BackColor = kYellow;
+  a.cmdSave.Enabled = false;
+  a.txt.Text = "typed";
+  a.chk.SetValue(true);
+  a.cbo.AddItem("item", 1);
+  a.Caption = "other";
+  a.EducatorId = "123";
   forms.Unload(a);
   forms.Show("A");
   EXPECT_EQ(a.cmdSave.BackColor, kButtonFace);
-  EXPECT_EQ(a.txt.Text, "");
+  EXPECT_TRUE(a.cmdSave.Enabled);
   EXPECT_FALSE(a.chk.Value());
   EXPECT_THAT(a.cbo.items(), IsEmpty());
-  EXPECT_TRUE(a.cmdSave.Enabled);
-  EXPECT_EQ(a.Caption, "A caption");
-  EXPECT_EQ(a.EducatorId, "123");
+  EXPECT_EQ(a.txt.Text + "|" + a.Caption + "|" + a.EducatorId, "|A caption|123");
 }
 
 TEST_F(Host, CodeThatChangesAChoiceRaisesItsClick) {
-  forms.Start("A");
-  events.clear();
-  Do("A", [](Probe& a) {
-    a.chk.SetValue(true);
-    a.chk.SetValue(true);  // no change, no click
-    a.opt1.SetValue(true);
-    a.opt2.SetValue(true);  // takes opt1 back without a click
-    a.cbo.AddItem("item", 1);
-    a.cbo.SetListIndex(0);
-    a.cbo.SetText("other");
-  });
+  Probe& a = P("A");
+  a.chk.SetValue(true);
+  a.chk.SetValue(true);  // no change, no click
+  a.opt1.SetValue(true);
+  a.opt2.SetValue(true);  // takes opt1 back without a click
+  a.cbo.AddItem("item", 1);
+  a.cbo.SetListIndex(0);
+  a.cbo.SetText("other");
   EXPECT_THAT(events, ElementsAre("A check", "A one", "A two", "A combo item"));
-  EXPECT_FALSE(P("A").opt1.Value());
-  EXPECT_EQ(P("A").cbo.ListIndex(), -1);
+  EXPECT_FALSE(a.opt1.Value());
+  EXPECT_EQ(a.cbo.ListIndex(), -1);
 }
 
 TEST_F(Host, HiddenAndDisabledControlsTakeNothingFromTheUser) {
-  forms.Start("A");
   Probe& a = P("A");
   a.chk.Enabled = false;
   a.chk.Click();
@@ -150,7 +137,6 @@ TEST_F(Host, HiddenAndDisabledControlsTakeNothingFromTheUser) {
 
 TEST_F(Host, AHandlersWritesAreOneCommitAndSurviveItsFailure) {
   OpenSite(1, 2);
-  forms.Start("A");
   Do("A", [this](Probe& a) {
     const bool done = a.Trap({"place", "routine"}, [this] {
       survey.Execute("insert into tbl_SETAAccreditation(SETAID)values(1)");
@@ -161,18 +147,16 @@ TEST_F(Host, AHandlersWritesAreOneCommitAndSurviveItsFailure) {
     // The box was shown after the commit, and the handler goes on.
     EXPECT_THAT(Query("select SETAID as r from tbl_SETAAccreditation"), ElementsAre("1"));
   });
-  ASSERT_EQ(dialogs.seen.size(), 1u);
-  EXPECT_EQ(dialogs.seen[0].title, "Error : 1");
-  EXPECT_EQ(dialogs.seen[0].prompt,
-            "Error Description: no such table: tbl_Nowhere\r\nLocation: place\r\n"
-            "Procedure: routine");
-  EXPECT_EQ(dialogs.seen[0].picture, Picture::kError);
-  EXPECT_EQ(dialogs.seen[0].type, kInformationIcon);
+  const MessageBox& box = dialogs.seen.at(0);
+  EXPECT_EQ(box.title, "Error : 1");
+  EXPECT_EQ(
+      box.prompt,
+      "Error Description: no such table: tbl_Nowhere\r\nLocation: place\r\nProcedure: routine");
+  EXPECT_EQ(std::tuple(box.picture, box.type), std::tuple(Picture::kError, kInformationIcon));
 }
 
 TEST_F(Host, AFailureThatNobodyTrapsIsToldAndEndsTheProgram) {
   OpenSite(1, 2);
-  forms.Start("A");
   Do("A", [this](Probe&) {
     survey.Execute("insert into tbl_SETAAccreditation(SETAID)values(1)");
     throw Overflow();
@@ -183,20 +167,14 @@ TEST_F(Host, AFailureThatNobodyTrapsIsToldAndEndsTheProgram) {
 }
 
 TEST_F(Host, AFailingActivationIsThatFormsOwn) {
-  forms.Start("A");
   P("B").activate = [] { throw TypeMismatch(); };
   Do("A", [this](Probe&) { forms.Show("B"); });
   EXPECT_EQ(LastBox(), "Run-time error '13':\n\nType mismatch");
 }
 
 TEST_F(Host, BoxesHaveTheirCaptionPictureAndDefault) {
-  struct Case {
-    std::function<void(MessageBoxes&)> show;
-    std::string title;
-    Picture picture;
-    int type;
-  };
-  const std::vector<Case> cases = {
+  using Show = std::function<void(MessageBoxes&)>;
+  const std::vector<std::tuple<Show, std::string, Picture, int>> cases = {
       {[](auto& b) { b.UserMessage("text"); }, "User Message", Picture::kMessage, 0x40},
       {[](auto& b) { EXPECT_FALSE(b.UserQuestion("text")); }, "User Question?", Picture::kQuestion,
        260 + 0x40},
@@ -209,26 +187,22 @@ TEST_F(Host, BoxesHaveTheirCaptionPictureAndDefault) {
       {[](auto& b) { b.ExtendedMsgBox("text", 0x134, "t", Picture::kNone, "x.ani"); }, "t",
        Picture::kNone, 0x144},
   };
-  for (const Case& c : cases) {
-    c.show(forms.boxes());
+  for (const auto& [show, title, picture, type] : cases) {
+    show(forms.boxes());
     const MessageBox& box = dialogs.seen.back();
-    EXPECT_EQ(box.title, c.title);
-    EXPECT_EQ(box.picture, c.picture) << c.title;
-    EXPECT_EQ(box.type, c.type) << c.title;
-    EXPECT_EQ(box.prompt, "text");
+    EXPECT_EQ(std::tie(box.prompt, box.title, box.picture, box.type),
+              std::tuple("text", title, picture, type));
   }
 }
 
 TEST_F(Host, ConfirmUnsavedReadsTheColourAndStaysAfterNo) {
-  forms.Start("A");
   forms.Show("B");
   Probe& a = P("A");
   a.cmdSave.BackColor = kYellow;
   EXPECT_FALSE(forms.ConfirmUnsaved(a.cmdSave, a));
   EXPECT_TRUE(a.loaded());
-  ASSERT_EQ(dialogs.seen.size(), 1u);
-  EXPECT_EQ(dialogs.seen[0].title, "Data has NOT been Saved");
-  EXPECT_EQ(dialogs.seen[0].picture, Picture::kStop);
+  EXPECT_EQ(dialogs.seen.at(0).title, "Data has NOT been Saved");
+  EXPECT_EQ(dialogs.seen.at(0).picture, Picture::kStop);
   EXPECT_EQ(LastBox(),
             "You have NOT saved your data. Are you sure you want to exit without saving?");
   dialogs.answers = {kAnswerYes};
@@ -242,16 +216,14 @@ TEST_F(Host, ConfirmUnsavedReadsTheColourAndStaysAfterNo) {
 
 // Whoever goes on from a page must be able to come back to it.
 TEST(PageChainTest, PreviousIsTheWayBackOfNext) {
-  std::string page = "frmPage2";
   int pages = 1;
-  while (page != "frmSelectEducator") {
+  for (std::string page = "frmPage2"; page != "frmSelectEducator"; ++pages) {
     const Link* next = FindLink(page, "cmdNext");
     ASSERT_NE(next, nullptr) << page;
     const Link* back = FindLink(next->target, "cmdPrevious");
     ASSERT_NE(back, nullptr) << next->target;
     EXPECT_EQ(back->target, page);
     page = next->target;
-    ++pages;
   }
   EXPECT_EQ(pages, 18);
 }

@@ -19,15 +19,15 @@ class ConnectionTest : public StoreTest {
  protected:
   // Opening must fail, name the file, and leave the folder as it was.
   void ExpectRefused(const std::string& path, double number, const std::string& reason) {
-    const std::string before = std::filesystem::is_directory(path) ? "" : ReadBytes(path);
+    const bool is_folder = std::filesystem::is_directory(path);
+    const std::string before = is_folder ? "" : ReadBytes(path);
     const auto files_before = FilesInFolder();
     const std::string told =
         FailsWith(number, [&] { Connection::Open(path, DatabasePassword(), keys_); });
     EXPECT_THAT(told, testing::AllOf(HasSubstr(path), HasSubstr(reason)));
-    EXPECT_TRUE(std::filesystem::is_directory(path) || ReadBytes(path) == before);
+    EXPECT_TRUE(is_folder || ReadBytes(path) == before);
     EXPECT_EQ(FilesInFolder(), files_before);
   }
-
   void ExpectBytesRefused(const std::string& bytes, double number, const std::string& reason) {
     WriteBytes(path_, bytes);
     ExpectRefused(path_, number, reason);
@@ -69,22 +69,14 @@ TEST_F(ConnectionTest, RefusesAFileThatWasCutOrChanged) {
   }
 }
 
-// The administrator may read and write everything, so the test is done as somebody else.
-class AsSomebody {
- public:
-  AsSomebody() { EXPECT_TRUE(user_ != 0 || seteuid(65534) == 0); }
-  ~AsSomebody() { EXPECT_TRUE(user_ != 0 || seteuid(user_) == 0); }
-
- private:
-  const uid_t user_ = geteuid();
-};
-
 TEST_F(ConnectionTest, RefusesAFileWithoutPermission) {
+  const bool administrator = geteuid() == 0;  // may read and write everything: be somebody else
   for (const mode_t mode : {0444, 0}) {
     ASSERT_EQ(chmod(path_.c_str(), mode), 0);
-    const AsSomebody somebody;
+    ASSERT_TRUE(!administrator || seteuid(65534) == 0);
     ExpectRefused(path_, mode ? SQLITE_READONLY : SQLITE_CANTOPEN,
                   mode ? "cannot be written" : "cannot be read");
+    ASSERT_TRUE(!administrator || seteuid(0) == 0);
   }
 }
 
@@ -116,7 +108,7 @@ TEST_F(ConnectionTest, TheKeyIsDerivedOnceAFileAndAnewForAReplacedOne) {
   EXPECT_EQ(key, "x'6ecf186184e25ac739c6a82a4c46ca31f976a933ee6610f85c66e2275a83f1d6'");
   const auto derivation = Clock::now() - start;
   for (int i = 0; i < 100; ++i) keys_.RawKey("TarquinVOX", salt);
-  EXPECT_LT(Clock::now() - start - derivation, derivation);
+  EXPECT_LT(Clock::now() - start, 2 * derivation);
   EXPECT_NE(keys_.RawKey("TarquinVOx", salt), key);
 
   EXPECT_EQ(AnswerOfFile("select count(*) from lst_province"), "2");

@@ -58,7 +58,7 @@ TEST_F(GroupTest, OneCommitEndsAGroupOfStatements) {
   writer->EndGroup();
   EXPECT_EQ(Answer(kCount, *reader), "2");
   Enrol(*writer, 3);
-  writer.reset();
+  writer.reset();  // commits as well
   EXPECT_EQ(Answer(kCount, *reader), "3");
 }
 

@@ -48,41 +48,34 @@ TEST_F(SurveyListsTest, ReadsWhatASpreadsheetSaves) {
 }
 
 TEST_F(SurveyListsTest, EachFaultIsToldWithFileLineAndReason) {
-  const std::string quoted_break = kColleges + "10,\"No\nrth\n\",12,x,2,7\n";
   const struct {
     std::string file, content, place, reason;
   } faults[] = {
       {"provinces.csv", "", ":1: ", "must read ProvinceCD,Province"},
-      {"provinces.csv", "Province,ProvinceCD\n1,x\n", ":1: ", "must read"},
       {"provinces.csv", "ProvinceCD,Province\n", ":1: ", "empty"},
       {"provinces.csv", kProvinces + "7,Limpopo\n", ":4: ", "7 stands in the list twice"},
       {"provinces.csv", kProvinces + "10,Limpopo\n", ":4: ", "from 1 to 9: 10"},
-      {"provinces.csv", kProvinces + "0,Limpopo\n", ":4: ", "from 1 to 9: 0"},
       {"provinces.csv", kProvinces + "2,\n", ":4: ", "Province is missing"},
       {"provinces.csv", kProvinces + "2,a,b\n", ":4: ", "3 fields in place of 2"},
-      {"provinces.csv", kProvinces + "2\n", ":4: ", "1 fields in place of 2"},
       {"provinces.csv", kProvinces + "\n\n2,Lim\xE9\n", ":6: ", "not UTF-8"},
       {"provinces.csv", kProvinces + "2,a\"b\n", ":4: ", "quote"},
       {"provinces.csv", kProvinces + "2,\"a\nb\n", ":4: ", "not closed"},
       {"colleges.csv", kColleges + "10,North,12,x,2,3\n", ":4: ", "unknown province 3"},
       {"colleges.csv", kColleges + "10,North,12,x,3,7\n", ":4: ", "SiteType"},
-      {"colleges.csv", kColleges + "10,North,12,x,0,7\n", ":4: ", "SiteType"},
       {"colleges.csv", kColleges + "10,North,11,x,2,7\n", ":4: ", "11 stands in the list twice"},
       {"colleges.csv", kColleges + "10,South,12,x,2,7\n", ":4: ", "is called North"},
       {"colleges.csv", kColleges + "10,North,12,x,2,1\n", ":4: ", "in province 7"},
       {"colleges.csv", kColleges + "10,North,12,x,1,7\n", ":4: ", "second central office"},
       {"colleges.csv", kColleges + "20,S,20,x,2,7\n20,S,21,y,2,7\n", ":4: ", "no central office"},
-      {"colleges.csv", kColleges + "10,North,12a,x,2,7\n", ":4: ", "CampusEmisNumber is no number"},
       {"colleges.csv", kColleges + "10,North,1.5,x,2,7\n", ":4: ", "CampusEmisNumber is no number"},
       {"colleges.csv", kColleges + "10,North,3000000000,x,2,7\n", ":4: ", "is no number"},
-      {"colleges.csv", quoted_break, ":4: ", "is called North"},
-      {"colleges.csv", quoted_break + "10,North,12,x,2,7\n", ":4: ", "is called North"},
+      {"colleges.csv", kColleges + "10,\"No\nrth\n\",12,x,2,7\n10,North,12,x,2,7\n",
+       ":4: ", "is called North"},
       {"colleges.csv", kCollegeHead + "10,\"N\n\n\",10,x,1,7\n10,N,11,x,2,7\n",
        ":5: ", "is called"},
       {"subjects.csv", kSubjects + "0456,Art,NSC\n", ":3: ", "0456 stands in the list twice"},
       {"subjects.csv", kSubjects + "04A,Art,NSC\n", ":3: ", "more than digits: 04A"},
       {"subjects.csv", kSubjects + "7,Art,ncv\n", ":3: ", "unknown programme ncv"},
-      {"qualifications.csv", kQualifications + "58761,x,1,2\n", ":3: ", "58761 stands"},
       {"qualifications.csv", kQualifications + "1,x,13,2\n", ":3: ", "NQFField"},
       {"qualifications.csv", kQualifications + "1,,1,2\n", ":3: ", "QualificationTitle is missing"},
   };

@@ -8,7 +8,7 @@
 
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
-#include "support/world.h"
+#include "world.h"
 
 namespace survey::testing {
 

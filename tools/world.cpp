@@ -1,4 +1,4 @@
-#include "support/world.h"
+#include "world.h"
 
 #include <stdlib.h>
 

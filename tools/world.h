@@ -1,5 +1,5 @@
-#ifndef TESTS_SUPPORT_WORLD_H_
-#define TESTS_SUPPORT_WORLD_H_
+#ifndef TOOLS_WORLD_H_
+#define TOOLS_WORLD_H_
 
 #include <deque>
 #include <filesystem>
@@ -124,4 +124,4 @@ const std::filesystem::path& TemplateFile();
 
 }  // namespace survey::testing
 
-#endif  // TESTS_SUPPORT_WORLD_H_
+#endif  // TOOLS_WORLD_H_

@@ -1,0 +1,79 @@
+#include "support/page_test.h"
+
+namespace survey::testing {
+namespace {
+
+using ::testing::ElementsAre;
+
+const std::string kInsert =
+    "Insert into tbl_StudentEnrolment(CollegeEmisNumber,CampusEmisnumber,ProgrammeTypeCD,GenderCD,"
+    "SurveyYear,Quantity)VALUES(101,202,";
+const std::string kInsertAgreement =
+    "Insert into tbl_StudentAgreements(CollegeEmisNumber,CampusEmisnumber,ProgrammeTypeCD,"
+    "AgreementTypeCD,GenderCD,SurveyYear,Quantity)VALUES(101,202,";
+
+struct StudentTotal : PageTest {
+  StudentTotal() : PageTest("frmStudentTotal", "gridEnrolment") {}
+  GridControl& Agreements() { return The<GridControl>("frmStudentTotal", "gridAgreements"); }
+};
+
+TEST_F(StudentTotal, EachColumnIsStoredUnderItsOwnCodes) {
+  ExpectOpen({{3, 4, 12, 4}});
+  EXPECT_TRUE(Type(6, 4, "999999") && !Type(6, 4, "1000000"));
+  EXPECT_TRUE(Unsaved());
+  for (int column = 3; column <= 12; ++column) Type(column, 4, std::to_string(column));
+  Type(6, 4, "");
+  statements.clear();
+  Save();
+  EXPECT_FALSE(Unsaved());
+  EXPECT_THAT(
+      StatementsWithout(kInsert),
+      ElementsAre("Delete * from tbl_StudentEnrolment" + kOfSite, "1,1,2012,3)", "1,2,2012,4)",
+                  "2,1,2012,5)", "4,1,2012,7)", "4,2,2012,8)", "3,1,2012,9)", "3,2,2012,10)",
+                  "5,1,2012,11)", "5,2,2012,12)", "Delete * from tbl_StudentAgreements" + kOfSite));
+  Reopen();
+  EXPECT_THAT(statements, ElementsAre("Select * from tbl_studentEnrolment" + kOfSite,
+                                      "Select * from tbl_studentagreements" + kOfSite));
+  EXPECT_EQ(Shown({{6, 4}, {7, 4}, {8, 4}, {9, 4}, {10, 4}, {13, 4}}), "|7|8|9|10|69");
+}
+
+TEST_F(StudentTotal, AgreementsGoRowByRowAndHaveNoNsc) {
+  Fill(Agreements(), {{10, 6, "106"}, {3, 5, "35"}, {7, 4, "74"}, {8, 4, "84"}, {9, 6, "96"}});
+  EXPECT_TRUE(Agreements().Type(6, 5, "99999").taken && Unsaved());
+  EXPECT_FALSE(Agreements().Type(6, 5, "100000").taken || Agreements().Type(11, 5, "1").taken);
+  EXPECT_EQ(Shown(Agreements(), {{11, 5}, {10, 7}, {11, 7}, {4, 7}}), "100034|106|100394|");
+  Save();
+  const auto sent = StatementsWithout(kInsertAgreement);
+  EXPECT_THAT(std::vector(sent.end() - 6, sent.end()),
+              ElementsAre("3,1,1,2012,74)", "3,1,2,2012,84)", "1,2,1,2012,35)", "2,2,2,2012,99999)",
+                          "5,3,1,2012,96)", "5,3,2,2012,106)"));
+  Reopen();
+  EXPECT_EQ(Shown(Agreements(), {{8, 4}, {10, 6}}), "84|106");
+}
+
+TEST_F(StudentTotal, RecordsOfNoColumnGoWhereTheOneBeforeWent) {
+  StoreAll(kInsert, {"6,1,2012,1", "3,2,2012,2", "1,3,2012,3"});
+  StoreAll(kInsertAgreement, {"5,2,1,2012,5", "4,3,1,2012,6"});
+  Reopen();
+  EXPECT_EQ(Shown({{10, 4}, {13, 4}}), "3|3");
+  EXPECT_EQ(Shown(Agreements(), {{9, 5}, {9, 6}}), "5|6");
+  EXPECT_FALSE(Unsaved());
+}
+
+TEST_F(StudentTotal, WorksOnTheConnectionThatStandsOpen) {
+  survey.CloseDatabaseConnection();
+  Reopen();
+  EXPECT_THAT(LastBox(), ToldBy("frmStudentTotal", "GetPage Routine"));
+  EXPECT_EQ(forms.Front()->Caption, " Corvale ANNUAL Survey -  Emis Number : 202");
+}
+
+TEST_F(StudentTotal, WhatWasSavedBeforeAFailureStays) {
+  RunScript("drop table tbl_StudentAgreements");
+  Type(3, 4, "5");
+  Save();
+  EXPECT_THAT(LastBox(), ToldBy("frmStudentTotal", "SavePage Routine"));
+  EXPECT_THAT(Query("select Quantity as r from tbl_StudentEnrolment"), ElementsAre("5"));
+}
+
+}  // namespace
+}  // namespace survey::testing
