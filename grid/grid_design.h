@@ -91,8 +91,8 @@ struct GridDesign {
   std::vector<CellAlignment> alignments = {};  // where the kind's own does not do
   std::vector<CellRange> bold = {};
   std::vector<CellRange> upright = {};  // texts that run from bottom to top, over narrow columns
-  Color locked_color = kLockedGrey;  // of all cells that do not take typing
-  std::string title = {};            // what a screen reader calls the grid
+  Color locked_color = kLockedGrey;     // of all cells that do not take typing
+  std::string title = {};               // what a screen reader calls the grid
 };
 
 }  // namespace survey
