@@ -8,7 +8,7 @@ const GridDesign& EnrolmentDesign() {
   static const GridDesign design = {
       .columns = 11,
       .rows = 30,
-      .column_widths = {720, 3060, 740, 700, 914, 914, 914, 914, 914, 700, 800},
+      .column_widths = {720, 3000, 800, 700, 914, 914, 914, 914, 914, 700, 800},
       .row_height = 330,
       .row_heights = {420, 480},
       .head_rows = 2,
