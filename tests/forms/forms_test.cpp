@@ -195,25 +195,6 @@ TEST_F(Host, BoxesHaveTheirCaptionPictureAndDefault) {
   }
 }
 
-TEST_F(Host, ConfirmUnsavedReadsTheColourAndStaysAfterNo) {
-  forms.Show("B");
-  Probe& a = P("A");
-  a.cmdSave.BackColor = kYellow;
-  EXPECT_FALSE(forms.ConfirmUnsaved(a.cmdSave, a));
-  EXPECT_TRUE(a.loaded());
-  EXPECT_EQ(dialogs.seen.at(0).title, "Data has NOT been Saved");
-  EXPECT_EQ(dialogs.seen.at(0).picture, Picture::kStop);
-  EXPECT_EQ(LastBox(),
-            "You have NOT saved your data. Are you sure you want to exit without saving?");
-  dialogs.answers = {kAnswerYes};
-  EXPECT_TRUE(forms.ConfirmUnsaved(a.cmdSave, a));
-  EXPECT_FALSE(a.loaded());
-  forms.Show("A");
-  dialogs.seen.clear();
-  EXPECT_TRUE(forms.ConfirmUnsaved(a.cmdSave, a));
-  EXPECT_THAT(dialogs.seen, IsEmpty());
-}
-
 // Whoever goes on from a page must be able to come back to it.
 TEST(PageChainTest, PreviousIsTheWayBackOfNext) {
   int pages = 1;

@@ -97,21 +97,5 @@ TEST(EntryTest, OnlyEntriesThatChangeSomethingAreNotified) {
   EXPECT_FALSE(grid.Tick(1, 1).taken) << "no box";
 }
 
-TEST(EntryTest, BoxesAreTickedAndNotifiedAsBoxes) {
-  const GridDesign design = OneCell(CheckBoxCell());
-  Grid grid(design);
-  const auto heard = Listen(grid);
-  for (const char* held : {"1", "0", "1"}) {
-    EXPECT_TRUE(grid.Tick(1, 1).taken);
-    EXPECT_EQ(grid.GetText(1, 1), held);
-  }
-  grid.Type(1, 1, "1");
-  grid.Type(1, 1, "");
-  grid.SetLock(1, 1, true);
-  EXPECT_FALSE(grid.Tick(1, 1).taken);
-  EXPECT_EQ(grid.GetText(1, 1), "");
-  EXPECT_EQ(*heard, Texts(4, "check 1,1"));
-}
-
 }  // namespace
 }  // namespace survey

@@ -13,35 +13,24 @@ const std::string kInsert =
 constexpr char kRows[] =
     "select NQFID || ' ' || Quantity || ' ' || SurveyYear as r from "
     "tbl_StudentRegistrationOccupational";
-constexpr char kCatalogue[] =
-    "insert into lst_OccupationalQualification(NQFID, QualificationTitle, NQFField, NQFLevel) "
-    "values ";
-
 class Page12_1 : public PageTest {
  protected:
   Page12_1() : PageTest(kPage, "gridPage12_2") {
-    Catalogue(
+    RunScript(
+        "delete from lst_OccupationalQualification; insert into lst_OccupationalQualification("
+        "NQFID, QualificationTitle, NQFField, NQFLevel) values "
         "(300, '\xc3\x89t\xc3\xa9', 12, 'Level 2'), (100, 'Aquaculture', 1, 'Level 3'),"
         "(1250, 'baking', 6, 'Level 4'), (125, 'Baking', 6, 'Level 4'), (555, 'Old five', 3, '5'),"
         "(666, 'Old six', 3, '6'), (777, 'Old seven', 3, '7'), (888, 'Old eight', 3, '8'),"
-        "(900, 'No field', null, 'Level 2'), (901, 'Field nought', 0, 'Level 2')",
-        "delete from lst_OccupationalQualification;");
-  }
-  void Catalogue(const std::string& rows, const std::string& before = "") {
-    RunScript((before + kCatalogue + rows).c_str());
+        "(900, 'No field', null, 'Level 2'), (901, 'Field nought', 0, 'Level 2')");
     Reopen();
   }
   ComboBox& Select() { return The<ComboBox>(kPage, "cboSelect"); }
-  std::vector<std::string> Offered() {
-    std::vector<std::string> texts;
-    for (const ListItem& item : Select().items()) texts.push_back(item.text);
-    return texts;
-  }
   void Pick(int id) {
-    for (std::size_t i = 0; i < Select().items().size(); ++i) {
-      if (Select().items()[i].item_data == id) return Select().Choose(static_cast<int>(i));
-    }
-    ADD_FAILURE() << id << " is not offered";
+    const auto& items = Select().items();
+    const auto item = std::ranges::find(items, id, &ListItem::item_data);
+    ASSERT_NE(item, items.end()) << id << " is not offered";
+    Select().Choose(static_cast<int>(item - items.begin()));
   }
   void Take(int id) {
     Pick(id);
@@ -52,22 +41,12 @@ class Page12_1 : public PageTest {
   }
 };
 
-TEST_F(Page12_1, OffersTheQualificationsOfAFieldById) {
-  EXPECT_THAT(Offered(),
-              ElementsAre("100 Aquaculture", "125 Baking", "300 \xc3\x89t\xc3\xa9", "555 Old five",
-                          "666 Old six", "777 Old seven", "888 Old eight", "1250 baking"));
-  // One without an id is not offered, and spoils the one above it.
-  Catalogue("(null, 'Sorted first', 1, 'Level 2'), ('', 'Sorted last', 1, 'Level 2')");
-  EXPECT_EQ(Offered().front() + Offered().back(), "100 Aquaculture1250 baking");
-  Take(0);  // is not found under that number: a line that is never stored
-  EXPECT_EQ(Line(3), "0|||0||");
-  EXPECT_FALSE(Yellow("cmdOK"));
-  Take(100);
-  Save();
-  EXPECT_THAT(Query(kRows), ElementsAre("100 0 2012"));
-}
-
-TEST_F(Page12_1, TypingSelectsTheFirstItemThatBeginsSoAndMarksTheRest) {
+TEST_F(Page12_1, OffersThoseOfAFieldByIdAndTypingSelectsTheFirstThatBeginsSo) {
+  std::string offered;
+  for (const ListItem& item : Select().items()) offered += item.text + ";";
+  EXPECT_EQ(offered,
+            "100 Aquaculture;125 Baking;300 \xc3\x89t\xc3\xa9;555 Old five;666 Old six;"
+            "777 Old seven;888 Old eight;1250 baking;");
   // From where to where is marked before (-1: as it was left), the keys, and what is seen then.
   const std::tuple<int, int, const char*, const char*> steps[] = {
       {-1, 0, "1", "100 Aquaculture 1+14"},
@@ -91,7 +70,6 @@ TEST_F(Page12_1, TypingSelectsTheFirstItemThatBeginsSoAndMarksTheRest) {
   }
   Select().KeyPress(U'\u00e9');  // changes the line, so the list is read anew
   EXPECT_EQ(Select().Text(), "");
-  EXPECT_EQ(Offered().size(), 8u);
 }
 
 TEST_F(Page12_1, OkEntersTheChoiceOnceAndAsksForOne) {
@@ -104,7 +82,6 @@ TEST_F(Page12_1, OkEntersTheChoiceOnceAndAsksForOne) {
   Click("cmdOK");
   EXPECT_THAT(statements, ElementsAre("Select NQFID, QualificationTitle,NQFField,NQFLevel from "
                                       "lst_OccupationalQualification where nqfid = 300"));
-  EXPECT_EQ(survey.DatabaseConnection, nullptr);
   EXPECT_EQ(Line(3), "300|\xc3\x89t\xc3\xa9||12|Level 2|");
   EXPECT_FALSE(Unsaved() || Type(4, 3, "x") || Type(8, 3, "100000"));
   Type(8, 3, "9");
@@ -158,10 +135,8 @@ TEST_F(Page12_1, ALineIsRemovedByItsNumberWhateverThatIs) {
   for (const char* number : {"21", "99", "0"}) remove(number);
   EXPECT_EQ(At(3, 3) + Line(23) + Line(2), "300||||||||||");
   EXPECT_THAT(dialogs.seen, IsEmpty());
-  for (const char* no_line : {"abc", "99999999999"}) {
-    remove(no_line);
-    EXPECT_THAT(LastBox(), ToldBy(kPage, "cmdRemove"));
-  }
+  remove("abc");
+  EXPECT_THAT(LastBox(), ToldBy(kPage, "cmdRemove"));
 }
 
 TEST_F(Page12_1, SavesEachLineWithAnIdAndLoadsThemById) {
@@ -183,26 +158,15 @@ TEST_F(Page12_1, SavesEachLineWithAnIdAndLoadsThemById) {
   EXPECT_EQ(Shown({{3, 5}, {8, 5}, {3, 6}}), "300|7|");
   Save();
   EXPECT_THAT(Query(kRows), ElementsAre("666 3 2012", "100 0 2012", "125 3 2012", "300 7 2012"));
-  StoreAll(kInsert, std::vector<std::string>(40, "(101,202,777,1,2012"));
-  Reopen();  // more records than lines run over the totals and out
-  EXPECT_EQ(Line(38), "777|Old seven||3|7|1");
-  Save();
-  EXPECT_EQ(Query(kRows).size(), 36u);
 }
 
 TEST_F(Page12_1, AChoiceThatWaitsForOkHoldsTheSaveBackButNotTheLeaving) {
   Take(100);
-  Type(8, 3, "1");
   Pick(125);
   Save();
   EXPECT_EQ(LastBox(),
             "Please click on the OK button to retrieve any previous data before continuing.");
-  EXPECT_TRUE(Unsaved());
   EXPECT_THAT(Query(kRows), IsEmpty());
-  Click("cmdOK");
-  Save();
-  EXPECT_THAT(Query(kRows), ElementsAre("100 1 2012", "125 0 2012"));
-  Pick(300);
   Click("cmdNext");
   EXPECT_EQ(Front(), "frmPage12_2");
   EXPECT_THAT(dialogs.seen, IsEmpty());
@@ -221,7 +185,6 @@ TEST_F(Page12_1, FailuresOfLinesAreSilentAndThoseOfTheCatalogueAreTold) {
   RunScript("drop table lst_OccupationalQualification");
   Click("cmdOK");
   EXPECT_THAT(LastBox(), ToldBy(kPage, "cmdOK"));
-  EXPECT_TRUE(Yellow("cmdOK"));
   Reopen();
   EXPECT_THAT(LastBox(), ToldBy(kPage, "GetPage Routine"));
 }
@@ -241,7 +204,6 @@ TEST_F(Page12_1, AddingAQualificationLosesUnsavedLines) {
   modal_scripts.push_back([&](Form& form) {
     statements.clear();
     SaveNew(form, 11, "150 A", "Masonry", 1);
-    EXPECT_FALSE(form.loaded());
   });
   Click("cmdAdd");
   statements.resize(2);
@@ -251,19 +213,13 @@ TEST_F(Page12_1, AddingAQualificationLosesUnsavedLines) {
                   "NQFID =150",
                   "insert into lst_occupationalqualification(NQFField,NQFId,QualificationTitle,"
                   "NQFLevel)VALUES(12,150,'Masonry','Level 3')"));
-  EXPECT_THAT(dialogs.seen, IsEmpty());
   EXPECT_TRUE(Unsaved());
   Take(150);
   EXPECT_EQ(Line(3), "150|Masonry||12|Level 3|");
 }
 
-TEST_F(Page12_1, TheDialogAsksInOrderAndForgetsWhenUnloaded) {
-  const struct {
-    int field;
-    const char *id, *title;
-    int level;
-    const char *request, *control;
-  } requests[] = {
+TEST_F(Page12_1, TheDialogAsksInOrder) {
+  const std::tuple<int, const char*, const char*, int, const char*, const char*> requests[] = {
       {-1, "", "", -1, "You must select the NQF field", "cboField"},
       {3, "", "", -1, "You must enter the qualification title", "txtTitle"},
       {-1, "none", "Women's work", -1, "You must enter the NQF ID number", "txtNQFID"},
@@ -271,31 +227,23 @@ TEST_F(Page12_1, TheDialogAsksInOrderAndForgetsWhenUnloaded) {
       {-1, "125", "Women's work", 0,
        "Please enter a new NQFID as the ID already exists for the qualification Baking",
        "txtNQFID"}};
-  modal_scripts.push_back([&](Form& form) {  // its window is closed in the end
-    SaveNew(form, 3, "", "", 0);
-    dialogs.seen.clear();
-  });
   modal_scripts.push_back([&](Form& form) {
     for (const auto& [field, id, title, level, request, control] : requests) {
       SaveNew(form, field, id, title, level);
       EXPECT_EQ(LastBox(), request);
       EXPECT_EQ(form.TakeFocusRequest(), &form.Find<Control>(control));
     }
-    EXPECT_EQ(form.Find<ComboBox>("cboField").Text(), "4 = Communicaiton Studies and Language");
     EXPECT_EQ(form.Find<TextBox>("txtNQFID").Text, "");
-    for (const char* id : {"126", "99999999999"}) {  // the quote; more than the list can carry
-      SaveNew(form, -1, id, "Women's work", 0);
-      EXPECT_THAT(LastBox(), ToldBy("frmAddQualification", "SavePage Routine"));
-    }
+    SaveNew(form, -1, "126", "Women's work", 0);  // the quote ends the statement early
+    EXPECT_THAT(LastBox(), ToldBy("frmAddQualification", "SavePage Routine"));
     form.Find<Button>("cmdCancel").Click();
     EXPECT_TRUE(form.loaded());  // answered No
     dialogs.answers = {kAnswerYes};
     form.Find<Button>("cmdCancel").Click();
     EXPECT_FALSE(form.loaded());
   });
-  for (int i = 0; i < 2; ++i) Click("cmdAdd");
-  EXPECT_EQ(Offered().size(), 8u);
-  EXPECT_EQ(Front(), kPage);
+  Click("cmdAdd");
+  EXPECT_EQ(Select().items().size(), 8u);
 }
 
 }  // namespace

