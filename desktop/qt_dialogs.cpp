@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QStandardPaths>
 
 #include "desktop/pictures.h"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr int kPictureSize = 48;
 constexpr int kButtonsMask = 0xF;
+constexpr int kUnnoticed = 500;  // milliseconds that a user waits without asking
 
 QString Title(const std::string& title) {
   return QString::fromStdString(title.empty() ? kProgramName : title);
@@ -28,6 +30,28 @@ QString NameFilter(const std::string& filter) {
   for (qsizetype i = 0; i < parts.size(); i += 2) names << parts[i];
   return names.join(";;");
 }
+
+class QtProgress : public Progress {
+ public:
+  QtProgress(const QString& title, QWidget* parent) : dialog_(parent) {
+    dialog_.setObjectName("Progress");
+    dialog_.setWindowTitle(title);
+    dialog_.setCancelButtonText(QObject::tr("Stop"));
+    dialog_.setWindowModality(Qt::ApplicationModal);
+    dialog_.setMinimumDuration(kUnnoticed);
+    dialog_.setAutoReset(false);
+  }
+
+  bool Step(int done, int total, std::string_view what) override {
+    dialog_.setMaximum(total);
+    dialog_.setLabelText(QString::fromUtf8(what.data(), std::ssize(what)));
+    dialog_.setValue(done);  // takes the user's clicks, once the dialog is seen
+    return !dialog_.wasCanceled();
+  }
+
+ private:
+  QProgressDialog dialog_;
+};
 
 }  // namespace
 
@@ -76,6 +100,10 @@ std::string QtDialogs::InputBox(const std::string& prompt, const std::string& ti
   dialog.setLabelText(QString::fromStdString(prompt));
   if (dialog.exec() != QDialog::Accepted) return {};
   return dialog.textValue().toStdString();
+}
+
+std::unique_ptr<Progress> QtDialogs::BeginProgress(const std::string& title) {
+  return std::make_unique<QtProgress>(Title(title), window_in_front_());
 }
 
 }  // namespace survey

@@ -18,6 +18,7 @@ class QtDialogs : public Dialogs {
   int ShowMessage(const MessageBox& box) override;
   std::string OpenFile(const std::string& filter) override;
   std::string InputBox(const std::string& prompt, const std::string& title) override;
+  std::unique_ptr<Progress> BeginProgress(const std::string& title) override;
 
  private:
   std::function<QWidget*()> window_in_front_;

@@ -43,16 +43,9 @@ void Form::ReportUntrapped(const RunTimeError& failure) {
   boxes().ReportError(name_, failure.what(), routine_, failure.number());
 }
 
-bool Form::CanShow(std::string_view target) {
-  if (forms_.IsBuilt(std::string(target))) return true;
-  boxes().PlainBox("This part of the survey is not in the program yet.");
-  return false;
-}
-
 void Form::FollowLink(const Button& button, const Button* cmdSave) {
   const Link* link = FindLink(name_, button.name());
   if (link == nullptr) throw std::out_of_range(name_ + " has no link at " + button.name());
-  if (!CanShow(link->target)) return;
   if (link->guard == Guard::kConfirmUnsaved && !forms_.ConfirmUnsaved(*cmdSave, *this)) return;
   const std::string target(link->target);
   if (link->passes != Passes::kNothing) forms_.Get(target).EducatorId = EducatorId;
@@ -67,6 +60,7 @@ void Form::FollowLink(const Button& button, const Button* cmdSave) {
 
 bool Form::Trap(const ErrorName& name, const std::function<void()>& body) {
   return Try(body, [&](const RunTimeError& failure) {
+    if (forms_.IsUnseenWork()) throw RunTimeError(failure);
     boxes().ReportError(name.location, failure.what(), name.procedure, failure.number());
   });
 }

@@ -20,7 +20,8 @@ struct ErrorName {
 };
 
 // A window of the program. One instance a run, made on first use; it outlives its unloading, its
-// public properties with it, while its controls return to their design at each load.
+// public properties with it, while its controls return to their design at each load. Those that
+// Forms::Unseen makes besides go with the work.
 class Form {
  public:
   Form(Forms& forms, std::string name, std::string caption);
@@ -69,15 +70,13 @@ class Form {
   MessageBoxes& boxes() const { return forms_.boxes(); }
 
   // Runs `body` and commits what it wrote; a failure of either is reported under `name`, and
-  // the handler goes on behind it. False after a failure.
+  // the handler goes on behind it. False after a failure. Throws it in Forms::Unseen.
   bool Trap(const ErrorName& name, const std::function<void()>& body);
   // The same without a word.
   bool TrapSilently(const std::function<void()>& body);
   // Goes where the page chain says this button leads. `cmdSave` carries the unsaved mark that a
   // guarded link asks about.
   void FollowLink(const Button& button, const Button* cmdSave = nullptr);
-  // Whether that form is built; if not, says so.
-  bool CanShow(std::string_view target);
   void SetFocus(Control& control) { focus_request_ = &control; }
 
  private:

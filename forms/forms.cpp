@@ -8,7 +8,7 @@
 namespace survey {
 namespace {
 
-// Counts an action in, and out again however it ends.
+// Counts something in, and out again however it ends.
 class Nested {
  public:
   explicit Nested(int& depth) : depth_(depth) { ++depth_; }
@@ -24,9 +24,11 @@ class Nested {
 
 Forms::Forms(Survey& survey, const Platform& platform)
     : survey_(survey), platform_(platform), boxes_(survey, platform.dialogs) {
-  survey_.set_error_reporter(
-      [this](std::string_view location, std::string_view description, std::string_view procedure,
-             double number) { boxes_.ReportError(location, description, procedure, number); });
+  survey_.set_error_reporter([this](std::string_view location, std::string_view description,
+                                    std::string_view procedure, double number) {
+    if (IsUnseenWork()) throw RunTimeError(number, std::string(description));
+    boxes_.ReportError(location, description, procedure, number);
+  });
 }
 
 Forms::~Forms() { survey_.set_error_reporter({}); }
@@ -71,6 +73,14 @@ void Forms::Unload(Form& form) {
 void Forms::UnloadAll() {
   ended_ = true;
   while (!shown_.empty()) Unload(*shown_.back());
+}
+
+void Forms::Unseen(const std::string& name, const std::function<void(Form&)>& work) {
+  const std::unique_ptr<Form> form = factories_.at(name)(*this);
+  const Nested nested(unseen_);
+  form->Load();
+  work(*form);
+  form->Form_Unload();
 }
 
 bool Forms::ConfirmUnsaved(const Button& cmdSave, Form& form) {

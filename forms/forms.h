@@ -68,6 +68,13 @@ class Forms {
   // Unloads every form, which ends the program.
   void UnloadAll();
 
+  // Makes another instance of the form, loads it from its design without showing it, lets `work`
+  // use it and drops it: nothing is left behind, and one that is on screen is not disturbed. What
+  // the traps of any form would report meanwhile is thrown as a RunTimeError instead, so that the
+  // caller's trap alone tells it; what they keep silent about stays silent.
+  void Unseen(const std::string& name, const std::function<void(Form&)>& work);
+  bool IsUnseenWork() const { return unseen_ > 0; }
+
   // Answers whether the form may be left: unloads it at once when `cmdSave` is not yellow, else
   // asks first. After a No nothing has changed.
   bool ConfirmUnsaved(const Button& cmdSave, Form& form);
@@ -105,6 +112,7 @@ class Forms {
   std::vector<Form*> modal_;
   Form* activated_ = nullptr;  // the front form that was activated last
   int depth_ = 0;              // of actions within actions
+  int unseen_ = 0;             // depth of Unseen
   bool ended_ = false;
 };
 

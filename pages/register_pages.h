@@ -5,8 +5,7 @@
 
 namespace survey {
 
-// Makes the survey pages known to the host. A page that is missing here answers every link to
-// it with a box.
+// Makes the survey pages known to the host.
 void RegisterPages(Forms& forms);
 
 }  // namespace survey

@@ -1,7 +1,9 @@
 #ifndef PLATFORM_DIALOGS_H_
 #define PLATFORM_DIALOGS_H_
 
+#include <memory>
 #include <string>
+#include <string_view>
 
 namespace survey {
 
@@ -28,6 +30,17 @@ struct MessageBox {
   std::string cursor_path;  // of an animated cursor; handed on for whoever can show one
 };
 
+// Tells how far a long job has come, and lets the user stop it. The window is alive meanwhile. Gone
+// from the screen when it is destroyed.
+class Progress {
+ public:
+  virtual ~Progress() = default;
+
+  // To be called before each step: `done` of `total` are behind, `what` comes next. False once the
+  // user wants to stop.
+  virtual bool Step(int done, int total, std::string_view what) = 0;
+};
+
 // The modal dialogs of the desktop. Each call returns when the user has answered.
 class Dialogs {
  public:
@@ -42,6 +55,9 @@ class Dialogs {
 
   // Asks for a line of text; "" after Cancel. An empty title stands for the program's name.
   virtual std::string InputBox(const std::string& prompt, const std::string& title) = 0;
+
+  // Never null. A job that is soon done shows nothing.
+  virtual std::unique_ptr<Progress> BeginProgress(const std::string& title) = 0;
 };
 
 }  // namespace survey

@@ -8,6 +8,8 @@
 namespace survey {
 namespace {
 
+constexpr double kLeft = 500;
+
 // clang-format off
 const std::vector<PagePrint> kPagePrints = {
     {"frmPage2", Head::kEmis, " General Information",
@@ -80,24 +82,33 @@ std::string HeadLine(Head head, double campus_emis_number, const std::string& st
   return {};
 }
 
-void PrintPage(Printer& printer, const PagePrint& page, const std::string& head_line,
-               const std::function<const Grid&(std::string_view name, int index)>& grid_of) {
-  if (page.landscape) printer.SetOrientation(Orientation::kLandscape);
+void PrintHead(Printer& printer, const std::string& head_line, double left,
+               std::string_view title) {
   printer.SetFont("Times New Roman", 12, true);
-  printer.SetCurrentX(500);
+  printer.SetCurrentX(left);
   printer.SetCurrentY(130);
   printer.Print(head_line);
   printer.Print("");
-  if (!page.title.empty()) {
-    printer.SetCurrentX(500);
-    printer.Print(page.title);
+  if (!title.empty()) {
+    printer.SetCurrentX(kLeft);
+    printer.Print(title);
     printer.Print("");
   }
   printer.SetFontBold(false);
-  for (const PrintedGrid& grid : page.grids) {
+}
+
+void DrawGrids(Printer& printer, const std::vector<PrintedGrid>& grids, const GridOf& grid_of) {
+  for (const PrintedGrid& grid : grids) {
     printer.OwnerPrintDraw(grid_of(grid.name, grid.index), grid.left, grid.top, printer.Width(),
                            printer.Height(), 1);
   }
+}
+
+void PrintPage(Printer& printer, const PagePrint& page, const std::string& head_line,
+               const GridOf& grid_of) {
+  if (page.landscape) printer.SetOrientation(Orientation::kLandscape);
+  PrintHead(printer, head_line, kLeft, page.title);
+  DrawGrids(printer, page.grids, grid_of);
   printer.EndDoc();
 }
 

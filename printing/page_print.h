@@ -42,10 +42,16 @@ const PagePrint& PrintOf(std::string_view page);
 // The head line of a page of this campus and, on staff pages, this staff member.
 std::string HeadLine(Head head, double campus_emis_number, const std::string& staff_id);
 
-// Prints a page as one job on one sheet. `grid_of` gives the page's grid of a name and index.
-// Throws RunTimeError when the printer fails.
+// Gives a page's grid of a name and index.
+using GridOf = std::function<const Grid&(std::string_view name, int index)>;
+
+// Prints a page as one job on one sheet. Throws RunTimeError when the printer fails.
 void PrintPage(Printer& printer, const PagePrint& page, const std::string& head_line,
-               const std::function<const Grid&(std::string_view name, int index)>& grid_of);
+               const GridOf& grid_of);
+
+// The parts of it. The head line begins at `left` twips; an empty title prints no line.
+void PrintHead(Printer& printer, const std::string& head_line, double left, std::string_view title);
+void DrawGrids(Printer& printer, const std::vector<PrintedGrid>& grids, const GridOf& grid_of);
 
 }  // namespace survey
 

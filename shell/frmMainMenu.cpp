@@ -1,5 +1,6 @@
 #include "shell/frmMainMenu.h"
 
+#include "forms/survey_page.h"
 #include "store/recordset.h"
 #include "store/text.h"
 
@@ -34,6 +35,17 @@ constexpr LearnerButton kLearnerButtons[] = {
     {12, "3.19", "frmPage13"},
 };
 
+// The pages of the printed survey, each a job of its own. Tables 3.11 to 3.13 are not among them.
+constexpr const char* kPrintedPages[] = {
+    "frmPage2",    "frmHostels",    "frmPage4",  "frmStudentTotal", "frmPage3",    "frmPage5",
+    "frmPage6_1",  "frmPage8",      "frmPage9",  "frmPage9_1",      "frmPage12_1", "frmPage12_2",
+    "frmPage9_10", "frmPage9_10_1", "frmPage14", "frmPage13",
+};
+// The year whose figures are printed, and which then holds until the menu is loaded again.
+constexpr int kPrintedYear = 2010;
+
+constexpr ErrorName kPrintRoutine = {"frmMainMenu", "Print Routine"};
+
 }  // namespace
 
 FrmMainMenu::FrmMainMenu(Forms& forms) : Form(forms, "frmMainMenu", "Main Menu") {
@@ -55,7 +67,7 @@ FrmMainMenu::FrmMainMenu(Forms& forms) : Form(forms, "frmMainMenu", "Main Menu")
   cmdHostel.on_click = [this] { OpenForSite("frmHostels"); };
   cmdStafffSummary.on_click = [this] { OpenForSite("frmPage4"); };
   cmdStaff.on_click = [this] { Open("frmSelectEducator"); };
-  cmdPrintSurvey.on_click = [this] { CanShow("the printed survey"); };
+  cmdPrintSurvey.on_click = [this] { Trap(kPrintRoutine, [this] { PrintSurvey(); }); };
   for (const LearnerButton& row : kLearnerButtons) {
     cmdLearner.push_back(std::make_unique<Button>(*this, "cmdLearner", row.caption, row.index));
     cmdLearner.back()->on_click = [this, page = row.page] { Open(page); };
@@ -261,13 +273,31 @@ bool FrmMainMenu::ValidateSite() {
 // ---- The menu --------------------------------------------------------------------------------
 
 void FrmMainMenu::Open(const std::string& target) {
-  if (!CanShow(target)) return;
   forms().Show(target);
   forms().Unload(*this);
 }
 
 void FrmMainMenu::OpenForSite(const std::string& target) {
   if (survey().CollegeEmisNumber != 0 && survey().CampusEmisNumber != 0) Open(target);
+}
+
+// ---- The printed survey ----------------------------------------------------------------------
+
+void FrmMainMenu::PrintSurvey() {
+  forms().platform().printer.ShowPrinter();
+  survey().CampusEmisNumber = LeadingNumber(txtCamEmis.Text);
+  survey().CollegeEmisNumber = LeadingNumber(txtColEmis.Text);
+  survey().SurveyYear = kPrintedYear;
+  const auto progress = forms().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
+  constexpr int kPages = std::size(kPrintedPages);
+  for (int done = 0; done < kPages; ++done) {
+    const std::string what = "Page " + std::to_string(done + 1) + " of " + std::to_string(kPages);
+    if (!progress->Step(done, kPages, what)) return;
+    forms().Unseen(kPrintedPages[done], [](Form& form) {
+      form.Form_Activate();
+      dynamic_cast<SurveyPage&>(form).Printpage();
+    });
+  }
 }
 
 }  // namespace survey

@@ -71,6 +71,7 @@ class FrmMainMenu : public Form {
   void ShowMenu(bool visible);
   void Open(const std::string& target);
   void OpenForSite(const std::string& target);
+  void PrintSurvey();
 };
 
 }  // namespace survey

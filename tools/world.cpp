@@ -19,6 +19,27 @@ fs::path MakeTemporaryFolder() {
   return name;
 }
 
+std::string PlaceOf(const Grid& grid, double left, double top, double right, double bottom) {
+  return dynamic_cast<const Control&>(grid).ObjectName() + " " + NumberText(left) + " " +
+         NumberText(top) + " " + NumberText(right) + " " + NumberText(bottom);
+}
+
+class FakeProgress : public Progress {
+ public:
+  FakeProgress(FakeDialogs& dialogs, std::string title)
+      : dialogs_(dialogs), title_(std::move(title)) {}
+
+  bool Step(int done, int total, std::string_view what) override {
+    dialogs_.steps_seen.push_back(title_ + ": " + std::to_string(done) + "/" +
+                                  std::to_string(total) + " " + std::string(what));
+    return done != dialogs_.stop_at;
+  }
+
+ private:
+  FakeDialogs& dialogs_;
+  std::string title_;
+};
+
 }  // namespace
 
 TemporaryFolder::TemporaryFolder() : path_(MakeTemporaryFolder()) {}
@@ -50,6 +71,10 @@ std::string FakeDialogs::InputBox(const std::string& prompt, const std::string& 
   std::string input = inputs.front();
   inputs.pop_front();
   return input;
+}
+
+std::unique_ptr<Progress> FakeDialogs::BeginProgress(const std::string& title) {
+  return std::make_unique<FakeProgress>(*this, title);
 }
 
 std::string FakeSettings::Get(const std::string& application, const std::string& section,
@@ -90,9 +115,15 @@ void FakePrinter::Print(std::string_view text) {
 
 void FakePrinter::OwnerPrintDraw(const Grid& grid, double left, double top, double right,
                                  double bottom, int page) {
-  operations.push_back("Draw " + dynamic_cast<const Control&>(grid).ObjectName() + " " +
-                       NumberText(left) + " " + NumberText(top) + " " + NumberText(right) + " " +
-                       NumberText(bottom) + " page " + NumberText(page));
+  if (on_draw) on_draw(grid);
+  operations.push_back("Draw " + PlaceOf(grid, left, top, right, bottom) + " page " +
+                       NumberText(page));
+}
+
+int FakePrinter::OwnerPrintPageCount(const Grid& grid, double left, double top, double right,
+                                     double bottom) {
+  operations.push_back("Count " + PlaceOf(grid, left, top, right, bottom));
+  return pages;
 }
 
 World::World() : forms(survey, {dialogs, printer, settings, program_folder}) {

@@ -33,6 +33,7 @@ struct FakeDialogs : Dialogs {
   int ShowMessage(const MessageBox& box) override;
   std::string OpenFile(const std::string& filter) override;
   std::string InputBox(const std::string& prompt, const std::string& title) override;
+  std::unique_ptr<Progress> BeginProgress(const std::string& title) override;
 
   std::vector<MessageBox> seen;
   std::deque<int> answers;  // OK, or the default button, once they are used up
@@ -40,6 +41,8 @@ struct FakeDialogs : Dialogs {
   std::string filter_seen;
   std::deque<std::string> inputs;        // Cancel once they are used up
   std::vector<std::string> inputs_seen;  // "title: prompt"
+  std::vector<std::string> steps_seen;   // "title: done/total what"
+  int stop_at = -1;                      // the step that the user stops at; -1: goes through
 };
 
 struct FakeSettings : Settings {
@@ -73,13 +76,16 @@ struct FakePrinter : Printer {
   double Height() override { return 16838; }
   void OwnerPrintDraw(const Grid& grid, double left, double top, double right, double bottom,
                       int page) override;
-  int OwnerPrintPageCount(const Grid&, double, double, double, double) override { return 1; }
+  int OwnerPrintPageCount(const Grid& grid, double left, double top, double right,
+                          double bottom) override;
   void NewPage() override { operations.push_back("NewPage"); }
   void EndDoc() override { operations.push_back("EndDoc"); }
 
   std::vector<std::string> operations;
   bool cancel = false;  // the user cancels the dialog
   bool broken = false;  // fails at the first text
+  int pages = 1;        // that a grid needs
+  std::function<void(const Grid&)> on_draw;
 };
 
 // A program without a desktop, in a folder of its own with the template in it.

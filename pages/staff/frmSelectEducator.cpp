@@ -1,5 +1,6 @@
 #include "pages/staff/frmSelectEducator.h"
 
+#include "printing/staff_print.h"
 #include "store/text.h"
 
 namespace survey {
@@ -8,10 +9,13 @@ namespace {
 constexpr int kRows = 200;
 constexpr int kNameColumn = 1;
 constexpr int kIdColumn = 2;
+constexpr char kNobodySelected[] = "Please select a staff member to continue";
 
 // Users have always read these names in the box.
 constexpr ErrorName kLoadRoutine = {"frmSelectSchool", "Load Schools Routine"};
 constexpr ErrorName kDeleteRoutine = {"Delete Function", " cmddelete Educator"};
+constexpr ErrorName kPrintPagesRoutine = {"frmselecteducator", "Print Routine"};
+constexpr ErrorName kPrintListRoutine = {"frmSelectEducator", "Print Routine"};
 
 const GridDesign& StaffListDesign() {
   static const GridDesign design = {
@@ -63,9 +67,8 @@ FrmSelectEducator::FrmSelectEducator(Forms& forms)
   for (Button* button : {&cmdEdit, &cmdSpecialisation, &cmdStaffteaching, &cmdLoad, &cmdLoad2}) {
     button->on_click = [this, button] { OpenPageOfSelected(*button); };
   }
-  for (Button* button : {&cmdPrint, &cmdPrintSurvey}) {
-    button->on_click = [this] { CanShow("the printed survey"); };
-  }
+  cmdPrint.on_click = [this] { Trap(kPrintListRoutine, [this] { PrintList(); }); };
+  cmdPrintSurvey.on_click = [this] { Trap(kPrintPagesRoutine, [this] { PrintPages(); }); };
   cmdPrevious.on_click = [this] { FollowLink(cmdPrevious); };
   cmdMenu.on_click = [this] {
     this->forms().Get("frmMainMenu").EditMode = "Edit";
@@ -128,7 +131,7 @@ void FrmSelectEducator::ShowRow(const Recordset& member, int row) {
 
 void FrmSelectEducator::OpenPageOfSelected(const Button& button) {
   if (!SelectedStaffId) {
-    boxes().UserMessage("Please select a staff member to continue");
+    boxes().UserMessage(kNobodySelected);
     return;
   }
   EducatorId = *SelectedStaffId;
@@ -208,6 +211,77 @@ void FrmSelectEducator::CorrectID(const std::string& old_id, const std::string& 
     survey().Execute(statement);
   }
   survey().EndStatements();
+}
+
+// ---- Printing --------------------------------------------------------------------------------
+
+void FrmSelectEducator::PrintPages() {
+  Printer& printer = forms().platform().printer;
+  printer.ShowPrinter();
+  if (chAll.Value()) {
+    PrintAllMembers();
+    SelectedStaffId.reset();
+  } else if (SelectedStaffId.value_or("").empty()) {
+    boxes().UserMessage(kNobodySelected);
+  } else {
+    PrintMember(*SelectedStaffId);
+    printer.EndDoc();
+  }
+}
+
+// One job; who is stopped at is left out with all behind.
+void FrmSelectEducator::PrintAllMembers() {
+  Printer& printer = forms().platform().printer;
+  const auto progress = forms().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
+  const int members = ToWholeNumber(LeadingNumber(txtNumber.Text));
+  for (int row = 1; row <= members; ++row) {
+    if (!progress->Step(row - 1, members, gridEducator.GetText(kNameColumn, row))) break;
+    const std::string& id = gridEducator.GetText(kIdColumn, row);
+    if (id.empty()) continue;
+    PrintMember(id);
+    printer.NewPage();
+  }
+  printer.EndDoc();
+}
+
+void FrmSelectEducator::PrintMember(const std::string& id) {
+  for (const StaffSheet& sheet : StaffSheets()) {
+    forms().Unseen(std::string(sheet.page), [&](Form& form) {
+      form.EducatorId = id;
+      form.EmisNumber = survey().CollegeEmisNumber;
+      form.FormMode = "Edit";
+      form.Form_Activate();
+      const Head head = PrintOf(sheet.page).head;
+      PrintSheet(forms().platform().printer, sheet, HeadLine(head, survey().CampusEmisNumber, id),
+                 [&](std::string_view name, int index) -> const Grid& {
+                   return form.Find<Grid>(name, index);
+                 });
+    });
+  }
+}
+
+void FrmSelectEducator::PrintList() {
+  constexpr double kBottomMargin = 1000;
+  Printer& printer = forms().platform().printer;
+  printer.ShowPrinter();
+  printer.SetOrientation(Orientation::kPortrait);
+  const double right = printer.Width();
+  const double bottom = printer.Height() - kBottomMargin;
+  const int pages = printer.OwnerPrintPageCount(gridEducator, 100, 1000, right, bottom);
+  printer.SetFont("Times New Roman", 12, true);
+  printer.SetCurrentX(140);
+  printer.SetCurrentY(130);
+  printer.Print("");
+  printer.SetCurrentX(500);
+  printer.Print("Educator List ");
+  printer.SetCurrentX(500);
+  printer.Print("");
+  printer.SetFontBold(false);
+  for (int page = 1; page <= pages; ++page) {
+    printer.OwnerPrintDraw(gridEducator, 300, 800, right, bottom, page);
+    if (page < pages) printer.NewPage();
+  }
+  printer.EndDoc();
 }
 
 }  // namespace survey

@@ -54,6 +54,10 @@ class FrmSelectEducator : public Form {
   void Delete();
   void UpdateID();
   void CorrectID(const std::string& old_id, const std::string& new_id);
+  void PrintPages();  // of the selected, or of all
+  void PrintAllMembers();
+  void PrintMember(const std::string& id);  // leaves the job open
+  void PrintList();
 
   // The ID number of who is selected: none for nobody, "" after a click on an empty row and after
   // a removal, which only the correction of an ID takes for nobody.

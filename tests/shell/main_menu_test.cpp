@@ -146,7 +146,14 @@ TEST_F(MainMenu, OptionsAndCombosClearWhatNoLongerHolds) {
   EXPECT_TRUE(Picking());
 }
 
-TEST_F(MainMenu, LinksTestTheSiteOrDoNotAndUnbuiltPagesSaySo) {
+TEST_F(MainMenu, LinksTestTheSiteAndLeaveTheMenu) {
+  struct Page : Form {
+    using Form::Form;
+    Layout Arrange() override { return Space(); }
+  };
+  forms.Register("frmPage2", [](Forms& host) {
+    return std::make_unique<Page>(host, "frmPage2", "General Information");
+  });
   StartAdding();
   Click(kMenu, "cmdList");
   Click(kList, "cmdContinue");
@@ -155,11 +162,12 @@ TEST_F(MainMenu, LinksTestTheSiteOrDoNotAndUnbuiltPagesSaySo) {
   forms.Start(kMenu);
   for (const char* needs_site : {"cmdGeneral", "cmdHostel", "cmdStafffSummary"}) {
     Click(kMenu, needs_site);
-    EXPECT_EQ(LastBox(), "") << needs_site;
+    EXPECT_EQ(Front(), kMenu) << needs_site;
   }
   survey.CollegeEmisNumber = survey.CampusEmisNumber = 7;
   Click(kMenu, "cmdGeneral");
-  EXPECT_EQ(LastBox(), "This part of the survey is not in the program yet.");
+  EXPECT_EQ(Front(), "frmPage2");
+  EXPECT_FALSE(forms.Get(kMenu).loaded());
 }
 
 }  // namespace

@@ -1,0 +1,208 @@
+#include <numeric>
+#include <tuple>
+
+#include "printing/staff_print.h"
+#include "support/page_test.h"
+
+namespace survey::testing {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+constexpr char kMenu[] = "frmMainMenu";
+constexpr char kList[] = "frmSelectEducator";
+
+class SurveyPrint : public PageTest {
+ protected:
+  SurveyPrint() : PageTest(kList, "gridEducator") {
+    for (const char* id : {"7501", "", "7502"}) {
+      Store(
+          "insert into tbl_StaffDetail(CollegeEmisNumber,CampusEmisNumber,SurveyYear,IDNumber,"
+          "Surname) values(101,202,2012,'" +
+          std::string(id) + "','S" + std::to_string(++members_) + "')");
+    }
+    Reopen();
+  }
+
+  void OpenMenu() {
+    forms.Unload(forms.Get(kList));
+    forms.Get(kMenu).EditMode = "Edit";
+    forms.Start(kMenu);
+    The<TextBox>(kMenu, "txtColEmis").Text = "101";
+    The<TextBox>(kMenu, "txtCamEmis").Text = "202";
+  }
+  void PrintSurvey() { World::Click(kMenu, "cmdPrintSurvey"); }
+  // The grids of each job, "a b, c".
+  std::string Jobs() const {
+    std::string jobs;
+    for (const std::string& operation : printer.operations) {
+      if (operation.starts_with("Draw ")) {
+        jobs += operation.substr(4, operation.find(' ', 5) - 4);
+      } else if (operation == "EndDoc") {
+        jobs += ",";
+      }
+    }
+    return jobs;
+  }
+  std::ptrdiff_t CountOf(const char* operation) const {
+    return std::ranges::count(printer.operations, operation);
+  }
+  void ExpectNothingLoadedBut(const std::string& name) {
+    EXPECT_THAT(forms.shown(), ElementsAre(&forms.Get(name)));
+    for (const char* page : {"frmPage2", "frmPage3", "frmPage12_1", "frmEducatorData"}) {
+      EXPECT_FALSE(forms.Get(page).loaded()) << page;
+    }
+  }
+
+  int members_ = 0;
+};
+
+TEST_F(SurveyPrint, PrintsTheCampusPageByPageForTheYear2010) {
+  for (const auto year : {std::int16_t{2010}, std::int16_t{2012}}) {
+    survey.SurveyYear = year;
+    forms.Start("frmPage3");
+    The<GridControl>("frmPage3", "gridEnrolment").Type(7, 3, std::to_string(year * 10));
+    World::Click("frmPage3", "cmdSave");
+    forms.CloseBox(forms.Get("frmPage3"));
+  }
+  OpenMenu();
+  survey.CampusEmisNumber = survey.CollegeEmisNumber = 9;
+  std::vector<std::string> figures;
+  printer.on_draw = [&](const Grid& grid) { figures.push_back(grid.GetText(7, 3)); };
+  PrintSurvey();
+  EXPECT_THAT(figures, Contains("20100"));
+  EXPECT_THAT(figures, Not(Contains("20120")));
+  EXPECT_EQ(Jobs(),
+            " gridPage2_1 gridGeneralInfo, gridhostels gridSETA, gridPage4_2 gridLectureStaff,"
+            " gridEnrolment gridAgreements, gridEnrolment,"
+            " gridFTE(1) gridFTE(2) gridFTE(0) gridReport191(2),"
+            " gridPage6_2(1) gridPage6_2(0) grid191(0), gridNCV(1), gridNCV(1), gridPage8_2(1),"
+            " gridPage12_2, gridPage12_1(0), gridPage9_1, gridPage9_1, gridPage9_1,"
+            " gridPage13_1,");
+  EXPECT_EQ(CountOf("ShowPrinter") + CountOf("landscape"), 2);
+  EXPECT_EQ(std::tuple(survey.CollegeEmisNumber, survey.CampusEmisNumber, survey.SurveyYear),
+            std::tuple(101, 202, 2010));
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  EXPECT_EQ(dialogs.steps_seen.back(), "Print Campus Survey: 15/16 Page 16 of 16");
+  ExpectNothingLoadedBut(kMenu);
+  // The year stays until the menu is loaded anew.
+  World::Click(kMenu, "cmdLearner", 7);
+  EXPECT_EQ(The<GridControl>("frmPage3", "gridEnrolment").GetText(7, 3), "20100");
+  World::Click("frmPage3", "cmdMenu");
+  EXPECT_EQ(survey.SurveyYear, 2012);
+}
+
+TEST_F(SurveyPrint, AFailureIsToldOnceAndLeavesOutTheRestAsAStopDoes) {
+  OpenMenu();
+  const auto expect_failure_after = [this](std::ptrdiff_t jobs) {
+    printer.operations.clear();
+    PrintSurvey();
+    EXPECT_EQ(CountOf("EndDoc"), jobs);
+    EXPECT_EQ(dialogs.seen.size(), 1u);
+    EXPECT_THAT(LastBox(), ToldBy(kMenu, "Print Routine"));
+    ExpectNothingLoadedBut(kMenu);
+  };
+  printer.cancel = true;
+  expect_failure_after(0);
+  EXPECT_EQ(survey.SurveyYear, 2012);
+  printer.cancel = false;
+  RunScript("alter table tbl_StudentRegistration rename to gone");
+  expect_failure_after(4);  // within the page's own trap
+  RunScript("alter table tbl_Hostels rename to gone_too");
+  expect_failure_after(1);  // within none
+  dialogs.stop_at = 1;
+  PrintSurvey();
+  EXPECT_THAT(dialogs.seen, IsEmpty()) << "a stop is no failure";
+  survey.DatabasePath += "gone";
+  expect_failure_after(0);  // while the connection is opened
+}
+
+TEST_F(SurveyPrint, PrintsTheSixPagesOfTheSelectedAsOneJob) {
+  Table().Click(1, 1);
+  Click("cmdPrintSurvey");
+  const std::string rest = " 11906 16838 page 1";
+  EXPECT_THAT(
+      printer.operations,
+      ElementsAre("ShowPrinter", "Font Times New Roman 12 bold", "X 140", "Y 130",
+                  "Print \" EMIS NUMBER: 202 Staff ID: 7501\"", "Print \"\"", "X 500",
+                  "Print \" Personnel Details\"", "Print \"\"", "bold off",
+                  "Draw gridgeneral 300 1200" + rest, "Draw gridTraining 300 8000" + rest,
+                  "NewPage", "Draw gridQual 300 1200" + rest, "NewPage",
+                  "Draw gridQual 300 1200" + rest, "Draw gridSubjects 300 7500" + rest, "NewPage",
+                  "Draw gridmonths 300 1200" + rest, "Draw gridSubjects 300 3000" + rest, "NewPage",
+                  "Draw gridFields 300 1200" + rest, "EndDoc"));
+  ExpectNothingLoadedBut(kList);
+  EXPECT_EQ(forms.Get("frmEducatorData").EducatorId, "");
+  Click("cmdEdit");  // still selected
+  EXPECT_EQ(forms.Front()->EducatorId, "7501");
+}
+
+TEST_F(SurveyPrint, PrintsAllStaffInOneJobWithoutThoseWhoHaveNoId) {
+  std::vector<std::string> surnames;
+  printer.on_draw = [&](const Grid& grid) {
+    if (grid.MaxColumns() == 7 && grid.MaxRows() == 18) surnames.push_back(grid.GetText(6, 3));
+  };
+  The<CheckBox>(kList, "chAll").Click();
+  Table().Click(1, 1);
+  Click("cmdPrintSurvey");
+  EXPECT_THAT(surnames, ElementsAre("S1", "S3"));
+  EXPECT_EQ(CountOf("NewPage"), 2 * 5);
+  EXPECT_EQ(CountOf("EndDoc"), 1);
+  EXPECT_EQ(dialogs.steps_seen[1], "Print Full Staff Survey: 1/3 S2  ");
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  Click("cmdEdit");
+  EXPECT_EQ(LastBox(), "Please select a staff member to continue");
+
+  printer.operations.clear();
+  dialogs.stop_at = 2;
+  Click("cmdPrintSurvey");
+  EXPECT_EQ(CountOf("NewPage"), 5);
+  EXPECT_EQ(printer.operations.back(), "EndDoc");
+}
+
+TEST_F(SurveyPrint, NobodySelectedOrAFailureOfOnePageIsTold) {
+  for (const int row : {0, 2}) {  // the heads; a row without an ID
+    Table().Click(1, row);
+    Click("cmdPrintSurvey");
+    EXPECT_EQ(LastBox(), "Please select a staff member to continue");
+  }
+  EXPECT_THAT(printer.operations, ElementsAre("ShowPrinter", "ShowPrinter"));
+  Table().Click(1, 1);
+  RunScript("alter table tbl_StaffDetail rename to gone");
+  Click("cmdPrintSurvey");
+  EXPECT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_THAT(LastBox(), ToldBy("frmselecteducator", "Print Routine"));
+  printer.cancel = true;
+  Click("cmdPrint");
+  EXPECT_THAT(LastBox(), ToldBy("frmSelectEducator", "Print Routine"));
+}
+
+TEST_F(SurveyPrint, PrintsTheListOverAllItsPages) {
+  printer.pages = 2;
+  Click("cmdPrint");
+  EXPECT_THAT(printer.operations,
+              ElementsAre("ShowPrinter", "portrait", "Count gridEducator 100 1000 11906 15838",
+                          "Font Times New Roman 12 bold", "X 140", "Y 130", "Print \"\"", "X 500",
+                          "Print \"Educator List \"", "X 500", "Print \"\"", "bold off",
+                          "Draw gridEducator 300 800 11906 15838 page 1", "NewPage",
+                          "Draw gridEducator 300 800 11906 15838 page 2", "EndDoc"));
+}
+
+TEST_F(SurveyPrint, TheSheetThatTwoPagesShareHoldsBothTables) {
+  const auto bottom = [this](const StaffSheet& sheet) {
+    const PrintedGrid& grid = sheet.grids.back();
+    const auto& design = The<GridControl>(std::string(sheet.page), grid.name).design();
+    EXPECT_TRUE(design.heads.empty());
+    const int own = static_cast<int>(design.row_heights.size());
+    return std::accumulate(design.row_heights.begin(), design.row_heights.end(),
+                           grid.top + (design.rows - own) * design.row_height);
+  };
+  EXPECT_LE(bottom(StaffSheets()[2]), 7500);
+  EXPECT_LE(bottom(StaffSheets()[3]), 16838 - 300);
+}
+
+}  // namespace
+}  // namespace survey::testing
