@@ -111,7 +111,7 @@ QColor GridPainter::ColorOf(Cell cell) const {
   return plain_total ? ToQColor(color).darker(kTotalShade) : ToQColor(color);
 }
 
-GridPainter::Setting GridPainter::SettingOf(Cell cell) const {
+GridPainter::Setting GridPainter::SettingOf(Cell cell, const CellLook& look) const {
   Setting setting;
   setting.text = cell.row == 0 ? HeadText(grid_, cell.column) : ShownText(grid_, cell);
   const bool head = cell.row <= sheet_.head_rows();
@@ -121,7 +121,7 @@ GridPainter::Setting GridPainter::SettingOf(Cell cell) const {
                           ? Qt::AlignHCenter
                           : ToQt(grid_.AlignmentOf(cell.column, cell.row));
   setting.wraps = grid_.Kind(cell.column, cell.row).type != CellKind::Type::kNumber;
-  setting.sign = QString::fromStdString(grid_.NoteOf(cell.column, cell.row).sign);
+  if (look.sign) setting.sign = QString::fromStdString(grid_.NoteOf(cell.column, cell.row).sign);
   return setting;
 }
 
@@ -136,10 +136,10 @@ void GridPainter::PaintCell(QPainter& painter, Cell cell, const QRect& rect,
     painter.save();
     painter.translate(rect.left(), rect.bottom() + 1);
     painter.rotate(-90);
-    PaintText(painter, QRect(QPoint(0, 0), rect.size().transposed()), SettingOf(cell));
+    PaintText(painter, QRect(QPoint(0, 0), rect.size().transposed()), SettingOf(cell, look));
     painter.restore();
   } else {
-    PaintText(painter, rect, SettingOf(cell));
+    PaintText(painter, rect, SettingOf(cell, look));
   }
 }
 

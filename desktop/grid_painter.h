@@ -17,6 +17,7 @@ struct CellLook {
   bool selected = false;
   bool cursor = false;   // the cursor is here
   bool focused = false;  // and the table has the keyboard
+  bool sign = false;     // what the colour says is told by a sign too; paper shows the colour alone
 };
 
 // Draws cells of a table, on screen and on paper alike: what a user prints is what they saw.
@@ -42,7 +43,7 @@ class GridPainter {
  private:
   struct Setting;
 
-  Setting SettingOf(Cell cell) const;
+  Setting SettingOf(Cell cell, const CellLook& look) const;
   QColor ColorOf(Cell cell) const;
   void PaintCell(QPainter& painter, Cell cell, const QRect& rect, const CellLook& look) const;
   void PaintLines(QPainter& painter, const QRect& rect) const;

@@ -220,7 +220,7 @@ void GridView::PaintPane(Pane pane, QPainter& painter, const QRect& exposed) con
   const auto look_of = [&](Cell cell) {
     const bool cursor = cell == Cell{active.column, active.row};
     const bool selected = cell.row > 0 && selectionModel()->isSelected(model_->IndexOf(cell));
-    return CellLook{selected && (list_ || !cursor), cursor, focused};
+    return CellLook{selected && (list_ || !cursor), cursor, focused, true};
   };
   painter.translate(-origin);
   painter_->PaintBlock(painter, BlockOf(pane), Scroll(), exposed.translated(origin), look_of);

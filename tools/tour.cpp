@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "desktop/qt_printer.h"
 #include "desktop_driver.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
@@ -93,9 +94,11 @@ class Tour {
   void FindSite(const std::string& picture);
   void ReturnByList();
   void CheckTable();
+  void PrintPages();
   void Close();
 
  private:
+  void PrintTo(const std::string& name, const std::string& button);
   static void Say(const std::string& step) { std::cout << step << std::endl; }
   void Save(QWidget& window, const std::string& name);
   void SaveFront(const std::string& name) { Save(*desktop_.view().FrontWindow(), name); }
@@ -273,6 +276,24 @@ void Tour::CheckTable() {
   Expect(!IsYellow("cmdSave"), "Save is not yellow on a page that was just opened");
 }
 
+// What a print button leaves in a file.
+void Tour::PrintTo(const std::string& name, const std::string& button) {
+  const fs::path file = output_ / (name + ".pdf");
+  fs::remove(file);
+  auto& printer = dynamic_cast<QtPrinter&>(desktop_.forms().platform().printer);
+  printer.PrintToFile(QString::fromStdString(file.string()));
+  driver_.Click(button);
+  Expect(fs::exists(file) && fs::file_size(file) > 0, file.string() + " is written");
+}
+
+void Tour::PrintPages() {
+  Say("Table 2.5 is printed, and from the menu the whole survey");
+  PrintTo("18-table", "cmdPrintPage");
+  driver_.Click("cmdMenu");
+  driver_.ExpectFront("frmMainMenu");
+  PrintTo("19-survey", "cmdPrintSurvey");
+}
+
 void Tour::Close() {
   Say("The window is closed");
   desktop_.view().window().close();
@@ -296,6 +317,7 @@ void SecondRun(const fs::path& output, const DesktopPlaces& places) {
   tour.FindDatabase();
   tour.FindSite("17-sites-again");
   tour.CheckTable();
+  tour.PrintPages();
   tour.Close();
 }
 

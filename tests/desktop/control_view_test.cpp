@@ -134,17 +134,6 @@ TEST_F(ControlViewTest, AListToChooseFromKeepsItsTextUntilOneIsChosen) {
   EXPECT_EQ(sample().cboChoice.Text(), "third");
 }
 
-TEST_F(ControlViewTest, OptionsExcludeEachOtherAndCanAllBeClear) {
-  user_->Click("optYes");
-  user_->Click("optNo");
-  user_->Click("optNo");
-  EXPECT_FALSE(user_->The<QRadioButton>("optYes").isChecked());
-  EXPECT_TRUE(user_->The<QRadioButton>("optNo").isChecked());
-  sample().optNo.SetValue(false);
-  desktop_->view().Refresh();
-  EXPECT_FALSE(user_->The<QRadioButton>("optNo").isChecked());
-}
-
 TEST_F(ControlViewTest, ListsAndButtonsWorkByKeyAndDisabledOnesDoNot) {
   user_->Usable("lstNames").setFocus();
   user_->Press(Qt::Key_Down);

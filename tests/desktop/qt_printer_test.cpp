@@ -71,12 +71,6 @@ TEST_F(QtPrinterTest, GathersTheJobsOfOneChoiceInOneFile) {
   EXPECT_EQ(Sheets(), "842x595") << "the orientation stays in force";
 }
 
-TEST_F(QtPrinterTest, NothingPrintedMakesNoFile) {
-  printer_.NewPage();
-  printer_.EndDoc();
-  EXPECT_EQ(Sheets(), "no file");
-}
-
 TEST_F(QtPrinterTest, BreaksAGridBetweenRowsAndColumns) {
   const GridDesign design = {.columns = 3,
                              .rows = 100,

@@ -73,20 +73,6 @@ TEST_F(ControlTotalsOfPages, TheColourStaysUntilTheSaveAndTheControlTotalUntilTh
   EXPECT_EQ(Total(), kLockedGrey);
 }
 
-TEST_F(ControlTotalsOfPages, WithoutAControlTotalNothingIsLoadedOrPainted) {
-  Reopen();
-  Type(4, 4, "6");
-  Save();
-  Register("101,202,9,2012,2147483647");
-  Register("101,202,9,2012,1");
-  Reopen();
-  EXPECT_EQ(dialogs.seen.at(0).title, "Error : 6");
-  EXPECT_EQ(LastBox(),
-            "Error Description: Overflow\r\nLocation: frmPage8\r\nProcedure: GetPage Routine");
-  EXPECT_EQ(ControlTotal() + At(4, 4), "");
-  EXPECT_EQ(Total(), kLockedGrey);
-}
-
 // Whatever the page: what is painted is a sum that the grid holds, and it is red at once where
 // only table 2.5 is filled.
 TEST_F(ControlTotalsOfPages, EveryReconciledCellIsATotalOfItsGrid) {

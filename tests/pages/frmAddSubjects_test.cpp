@@ -127,11 +127,5 @@ TEST_F(AddSubjects, FailuresAreReportedAndTheStepsGoOn) {
   EXPECT_EQ(Details() + Codes(), "||     ");
 }
 
-TEST_F(AddSubjects, KnowsTheLoadOfTheCollege) {
-  RunScript("insert into tbl_SubjectLoad values ('00812', 101), ('813', 102), (null, 101)");
-  EXPECT_TRUE(Dialog().SubjectInLoad(812));
-  EXPECT_FALSE(Dialog().SubjectInLoad(813) || Dialog().SubjectInLoad(0));
-}
-
 }  // namespace
 }  // namespace survey::testing

@@ -184,7 +184,7 @@ TEST_F(EducatorData, BackAsksItsOwnQuestionAndNextAsksNothing) {
   Training().Type(3, 2, "1");
   EXPECT_TRUE(Unsaved());
   Click("cmdNext");
-  EXPECT_EQ(dialogs.seen.size(), 0u);
+  EXPECT_TRUE(dialogs.seen.empty());
   EXPECT_EQ(Front() + forms.Front()->EducatorId, "frmLecQualifications18001");
 }
 

@@ -83,19 +83,6 @@ TEST_F(OtherProgrammes, WithoutProgrammesTheAnswerIsForgotten) {
   EXPECT_EQ(Answer(), "2");
 }
 
-TEST_F(OtherProgrammes, StrayRecordsGoWhereTheirNumbersLead) {
-  StoreAll(kProgramme, std::vector<std::string>(6, "'P','I',5,1,2012,10"));
-  Store(kProgramme + "'P7','I',5,1,2012,10)");
-  Store(kAet + "14,1,1,2012,55)");  // the totals row
-  Store(kAet + "1,1,1,2012,66)");   // above the grid
-  Reopen();
-  EXPECT_EQ(Shown({{2, 9}, {5, 9}, {7, 9}}), "P|1|55");
-  EXPECT_EQ(Shown(Aet(), {{4, 8}}), "55");
-  Save();
-  EXPECT_EQ(Query("select ProgrammeName as r from tbl_Level5Programmes").size(), 5u);
-  EXPECT_THAT(Query("select AETLevel as r from tbl_StudentPopulationGroupAET"), IsEmpty());
-}
-
 TEST_F(OtherProgrammes, AFailedSaveKeepsTheMarkAndWhatWasDone) {
   RunScript("drop table tbl_StudentPopulationGroupNSC");
   Fill(Table(), {{2, 4, "P"}, {4, 4, "I"}});

@@ -13,6 +13,7 @@ const std::string kInsert =
 constexpr char kRows[] =
     "select NQFID || ' ' || Quantity || ' ' || SurveyYear as r from "
     "tbl_StudentRegistrationOccupational";
+
 class Page12_1 : public PageTest {
  protected:
   Page12_1() : PageTest(kPage, "gridPage12_2") {
@@ -50,8 +51,7 @@ TEST_F(Page12_1, OffersThoseOfAFieldByIdAndTypingSelectsTheFirstThatBeginsSo) {
   // From where to where is marked before (-1: as it was left), the keys, and what is seen then.
   const std::tuple<int, int, const char*, const char*> steps[] = {
       {-1, 0, "1", "100 Aquaculture 1+14"},
-      {-1, 0, "25", "125 Baking 3+7"},
-      {-1, 0, "0 BA", "1250 baking 7+4"},
+      {-1, 0, "250 BA", "1250 baking 7+4"},
       {-1, 0, "x", "1250 baking 7+4"},  // begins nothing: swallowed
       {2, 9, "5", "125 Baking 3+7"},
       {3, 0, "7", "125 Baking 3+0"},  // nothing marked: goes on behind the whole line
@@ -75,9 +75,7 @@ TEST_F(Page12_1, OffersThoseOfAFieldByIdAndTypingSelectsTheFirstThatBeginsSo) {
 TEST_F(Page12_1, OkEntersTheChoiceOnceAndAsksForOne) {
   Click("cmdOK");
   EXPECT_EQ(LastBox(), "Please select a qualification to continue.");
-  EXPECT_EQ(forms.Get(kPage).TakeFocusRequest(), &Select());
   Pick(300);
-  EXPECT_TRUE(Yellow("cmdOK"));
   statements.clear();
   Click("cmdOK");
   EXPECT_THAT(statements, ElementsAre("Select NQFID, QualificationTitle,NQFField,NQFLevel from "
@@ -86,9 +84,7 @@ TEST_F(Page12_1, OkEntersTheChoiceOnceAndAsksForOne) {
   EXPECT_FALSE(Unsaved() || Type(4, 3, "x") || Type(8, 3, "100000"));
   Type(8, 3, "9");
   EXPECT_TRUE(Unsaved());
-  Table().SetText(3, 9, "300");  // twice in the grid: said twice
   Take(300);
-  ASSERT_EQ(dialogs.seen.size(), 2u);
   EXPECT_EQ(LastBox(), "You have already entered this qualification");
   EXPECT_EQ(Line(4), "|||||");
   EXPECT_FALSE(Yellow("cmdOK"));

@@ -56,14 +56,6 @@ TEST_F(Page5, FteCellsTakeThreeDecimalsAndASign) {
   }
 }
 
-// The last total of table 3.3 adds the totals beside it; that of table 3.1 those above it.
-TEST_F(Page5, GrandTotalsAddWhatTheirTablesSay) {
-  StoreAll(kInsertFte, {"9,7,2012,1", "4,1,2012,1", "9,10,2012,50", "4,7,2012,50"});
-  Reopen();  // the last two stand over totals
-  EXPECT_EQ(Shown(Table31(), {{4, 6}, {7, 6}}), "50|1");
-  EXPECT_EQ(Shown(Table33(), {{4, 9}, {7, 9}}), "50|50");
-}
-
 TEST_F(Page5, Table34TakesWholeNumbersAndSetsNoMark) {
   EXPECT_FALSE(Table34().Type(4, 4, "1.5").taken || Table34().Type(4, 4, "10000").taken);
   Fill(Table34(), {{4, 4, "9999"}, {13, 6, "1"}});

@@ -26,20 +26,6 @@ struct Page6 : PageTest {
   Color TotalOf(GridControl& table) { return table.BackColor(14, 10); }
 };
 
-TEST_F(Page6, OpensOnTheFirstTableWithTheControlTotalsOfAllThree) {
-  for (int type : {4, 5, 6}) Register(type, 10 * type);
-  Reopen();
-  ASSERT_EQ(statements.size(), 6u);
-  for (int i = 0; i < 3; ++i) {
-    const std::string code = std::to_string(4 + i);
-    EXPECT_THAT(statements[i], EndsWith("ProgrammeRegistrationTypeCD = " + code));
-    EXPECT_EQ(statements[3 + i], "Select * from tbl_StudentPopulationGroup191" + kOfSite +
-                                     " and programmeregistrationtypeCD = " + code);
-  }
-  EXPECT_EQ(Box("txtN3") + Box("txtN4") + Box("txtN5"), "405060");
-  EXPECT_EQ(N4().GetText(2, 9) + N5().GetText(2, 1) + N6().GetText(2, 4), "3.5.63.63.7.1");
-}
-
 TEST_F(Page6, EachLevelIsStoredColumnByColumnUnderItsCode) {
   Store(kInsert + "3,1,1,1,2012,9)");
   Fill(N6(), {{13, 9, "0"}});
@@ -86,15 +72,6 @@ TEST_F(Page6, LimitsHoldAndTheLastTableSetsNoMark) {
   Click("cmdNext");
   EXPECT_THAT(dialogs.seen, IsEmpty());
   EXPECT_EQ(Front(), "frmPage8");
-}
-
-TEST_F(Page6, RecordsGoByFieldUncheckedAndByGroup) {
-  // A group that there is not; a field over the totals; one outside the table.
-  StoreAll(kInsert + "4,", {"2,2,1,2012,8", "3,9,1,2012,9", "7,5,2,2012,77", "20,5,2,2012,7"});
-  Reopen();
-  EXPECT_EQ(Shown(N4(), {{6, 5}, {6, 6}, {13, 10}, {14, 10}}), "8|9|77|17");
-  Save();
-  EXPECT_THAT(Query(kQuantities), ElementsAre("8", "9"));
 }
 
 TEST_F(Page6, FailuresAreReportedUnderTheNamesUsersKnow) {

@@ -51,29 +51,5 @@ TEST_F(StudentTotal, AgreementsGoRowByRowAndHaveNoNsc) {
   EXPECT_EQ(Shown(Agreements(), {{8, 4}, {10, 6}}), "84|106");
 }
 
-TEST_F(StudentTotal, RecordsOfNoColumnGoWhereTheOneBeforeWent) {
-  StoreAll(kInsert, {"6,1,2012,1", "3,2,2012,2", "1,3,2012,3"});
-  StoreAll(kInsertAgreement, {"5,2,1,2012,5", "4,3,1,2012,6"});
-  Reopen();
-  EXPECT_EQ(Shown({{10, 4}, {13, 4}}), "3|3");
-  EXPECT_EQ(Shown(Agreements(), {{9, 5}, {9, 6}}), "5|6");
-  EXPECT_FALSE(Unsaved());
-}
-
-TEST_F(StudentTotal, WorksOnTheConnectionThatStandsOpen) {
-  survey.CloseDatabaseConnection();
-  Reopen();
-  EXPECT_THAT(LastBox(), ToldBy("frmStudentTotal", "GetPage Routine"));
-  EXPECT_EQ(forms.Front()->Caption, " Corvale ANNUAL Survey -  Emis Number : 202");
-}
-
-TEST_F(StudentTotal, WhatWasSavedBeforeAFailureStays) {
-  RunScript("drop table tbl_StudentAgreements");
-  Type(3, 4, "5");
-  Save();
-  EXPECT_THAT(LastBox(), ToldBy("frmStudentTotal", "SavePage Routine"));
-  EXPECT_THAT(Query("select Quantity as r from tbl_StudentEnrolment"), ElementsAre("5"));
-}
-
 }  // namespace
 }  // namespace survey::testing

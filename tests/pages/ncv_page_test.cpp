@@ -17,6 +17,8 @@ struct Level {
   const char *get, *save, *print;  // the pages that the boxes of failures name
 };
 
+void PrintTo(const Level& level, std::ostream* out) { *out << level.page; }
+
 const Level kLevels[] = {{"frmPage8", "gridNCV", "3.8", "2 programmes", "9", 99999,
                           " Student Information", "frmPage8", "frmPage5", "frmPage8"},
                          {"frmPage9", "gridNCV", "3.9", "3 programmes", "10", 99999,

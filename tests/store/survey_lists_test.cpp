@@ -96,17 +96,5 @@ TEST_F(SurveyListsTest, AListThatIsNoFileIsNamed) {
   EXPECT_EQ(Fault(), "subjects.csv: the file cannot be read");
 }
 
-TEST_F(SurveyListsTest, TheDeliveredListsMakeATemplate) {
-  const SurveyLists lists = ReadSurveyLists(SURVEY_DATA);
-  EXPECT_EQ(lists.provinces.size(), 9u);
-  MakeTemplate(lists, path_);
-  const auto connection = Open();
-  EXPECT_EQ(Answer("select count(*) from lst_college c, tbl_GeneralInformation g where "
-                   "c.CampusEmisNumber = g.CampusEmisNumber",
-                   *connection),
-            std::to_string(lists.sites.size()));
-  EXPECT_EQ(Answer("select count(distinct Programme) from lst_Subject", *connection), "4");
-}
-
 }  // namespace
 }  // namespace survey

@@ -83,10 +83,5 @@ TEST_F(SurveyTest, ControlTotalSumsACampusAndACodeWhateverTheCollege) {
   FailsWith(94, [&] { survey_.ControlTotal(15); });
 }
 
-TEST_F(SurveyTest, TheCaptionNamesTheCampusAlone) {
-  survey_.CampusEmisNumber = 500123456;
-  EXPECT_EQ(survey_.SurveyCaption("x"), " Corvale ANNUAL Survey -  Emis Number : 500123456");
-}
-
 }  // namespace
 }  // namespace survey

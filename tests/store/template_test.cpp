@@ -42,31 +42,6 @@ TEST_F(TemplateTest, AppearsWholeOrNotAtAll) {
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
 }
 
-TEST_F(TemplateTest, EveryTableIsSearchedBySiteOrPersonAndTakesARecordTwice) {
-  const auto connection = Open();
-  Recordset tables;
-  tables.Open(
-      "Select name,sql from sqlite_master where type = 'table' and name like 'tbl_%' and "
-      "name <> 'tbl_SubjectLoad'",
-      connection.get());
-  EXPECT_EQ(tables.RecordCount(), 27);
-  for (; !tables.Eof(); tables.MoveNext()) {
-    const std::string table = tables.Field("name").Text();
-    const bool of_person = tables.Field("sql").Text().find("IDNumber") != std::string::npos;
-    const std::string insert =
-        "Insert into " + table + "(CollegeEmisNumber,CampusEmisnumber,surveyyear" +
-        (of_person ? ",IDNumber)VALUES(10,13,2012,'ab1')" : ")VALUES(10,13,2012)");
-    for (int twice = 0; twice < 2; ++twice) connection->Execute(insert);
-    const std::string found =
-        " from " + table + " where " +
-        (of_person ? "IDnumber = 'AB1'" : "collegeemisnumber = 10 and campusemisnumber = 13");
-    EXPECT_EQ(Answer("select count(*)" + found + " and surveyyear = 2012", *connection), "2");
-    Recordset plan;
-    plan.Open("Explain query plan Select *" + found, connection.get());
-    EXPECT_THAT(plan.Field("detail").Text(), testing::StartsWith("SEARCH")) << table;
-  }
-}
-
 TEST_F(TemplateTest, KindsOfColumnsBehaveAsThePagesExpect) {
   const auto connection = Open();
   connection->Execute(
