@@ -177,9 +177,9 @@ TEST_F(EducatorData, BackAsksItsOwnQuestionAndNextAsksNothing) {
   Open("8001", "New");
   Type(7, 1, "1");
   Click("cmdPrevious");
-  EXPECT_EQ(LastBox(),
-            "You have not yet saved your data changes.\nAre you sure you want to continue without "
-            "saving?");
+  EXPECT_EQ(Front() + ": " + LastBox(),  // No is the default, and stays
+            "frmEducatorData: You have not yet saved your data changes.\nAre you sure you want to "
+            "continue without saving?");
   Open("8001", "New");
   Training().Type(3, 2, "1");
   EXPECT_TRUE(Unsaved());
