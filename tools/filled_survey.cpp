@@ -1,0 +1,285 @@
+#include "filled_survey.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <stdexcept>
+
+#include "forms/form.h"
+#include "store/text.h"
+
+namespace survey::testing {
+namespace {
+
+constexpr const char* kCampusPages[] = {
+    "frmPage2",           "frmHostels",  "frmPage4",    "frmStudentTotal", "frmPage3",
+    "frmPage5",           "frmPage6_1",  "frmPage8",    "frmPage9",        "frmPage9_1",
+    "frmOtherProgrammes", "frmPage12_1", "frmPage12_2", "frmPage9_10",     "frmPage9_10_1",
+    "frmPage14",          "frmPage13",
+};
+constexpr const char* kStaffPages[] = {
+    "frmEducatorData",      "frmLecQualifications1", "frmLecQualifications2",
+    "frmEducatorTeaching1", "frmEducatorTeaching",   "frmEducatorTeaching2",
+};
+constexpr const char* kStaffTables[] = {
+    "tbl_StaffDetail",
+    "tbl_StaffTraining",
+    "tbl_StaffQualificationType",
+    "tbl_LecturerContactMonth",
+    "tbl_LecturerTeachingSubject",
+    "tbl_LecturerQualificationSubject",
+    "tbl_LecturerTeachingFields",
+};
+
+constexpr int kHostels = 5;
+constexpr int kQualifications = 35;
+constexpr int kSubjects = 15;
+
+// ---- Answers ---------------------------------------------------------------------------------
+
+std::string Padded(int number, int width) {
+  const std::string digits = std::to_string(number);
+  return std::string(static_cast<std::size_t>(std::max(width - static_cast<int>(digits.size()), 0)),
+                     '0') +
+         digits;
+}
+
+std::string NumberWithin(const CellKind& kind, int figure) {
+  double number = figure;
+  if (number < kind.minimum || number > kind.maximum) {
+    const int size = static_cast<int>(std::floor(kind.maximum - kind.minimum)) + 1;
+    number = std::ceil(kind.minimum) + figure % size;
+  } else if (kind.decimals == 3) {  // fewer decimals are rounded away where they are stored
+    number += (figure % 999 + 1) / 1000.0;
+  }
+  return NumberText(number);
+}
+
+std::string AnswerOf(const CellKind& kind, int figure) {
+  constexpr int kTelephone = 10;  // digits
+  constexpr int kLine = 50;       // characters that give room for two words
+  switch (kind.type) {
+    case CellKind::Type::kNumber:
+      return NumberWithin(kind, figure);
+    case CellKind::Type::kDigits:
+      return (kind.length < kTelephone ? "" : "021555") + Padded(figure, std::min(kind.length, 4));
+    case CellKind::Type::kDate:
+      return std::to_string(1950 + figure % 40) + "/" + Padded(1 + figure % 12, 2) + "/" +
+             Padded(1 + figure % 28, 2);
+    case CellKind::Type::kText:
+      if (kind.length < kLine) return WordOf(figure);
+      return WordOf(figure) + " " + WordOf(figure + 100'000);
+    case CellKind::Type::kCheckBox:
+    case CellKind::Type::kLabel:
+      break;
+  }
+  return {};
+}
+
+void Require(const Entry& entry, const GridControl& grid, Cell cell) {
+  if (entry.taken) return;
+  throw std::runtime_error(grid.form().name() + " " + grid.ObjectName() + " (" +
+                           std::to_string(cell.column) + "," + std::to_string(cell.row) +
+                           "): " + entry.reason);
+}
+
+void Answer(GridControl& grid, Cell cell, Figures& figures) {
+  const auto [column, row] = cell;
+  grid.MoveTo(column, row);
+  const CellKind& kind = grid.Kind(column, row);
+  if (kind.type != CellKind::Type::kCheckBox) {
+    Require(grid.Type(column, row, AnswerOf(kind, figures.Next())), grid, cell);
+  } else if (grid.GetText(column, row) != "1") {
+    Require(grid.Tick(column, row), grid, cell);
+  }
+}
+
+void FillGrid(GridControl& grid, Figures& figures, std::vector<FilledCell>& filled) {
+  const auto told = [&](Cell cell) {
+    filled.push_back(
+        {grid.name(), grid.index(), cell.column, cell.row, grid.GetText(cell.column, cell.row)});
+  };
+  for (auto cell = grid.NextOpenCell({0, 1}); cell; cell = grid.NextOpenCell(*cell)) {
+    if (grid.IsTotal(cell->column, cell->row)) continue;
+    Answer(grid, *cell, figures);
+    told(*cell);
+  }
+}
+
+void FillGrids(Form& page, Figures& figures, std::vector<FilledCell>& filled) {
+  for (Control* control : page.controls()) {
+    auto* grid = dynamic_cast<GridControl*>(control);
+    if (grid != nullptr && grid->Visible && grid->Enabled) FillGrid(*grid, figures, filled);
+  }
+}
+
+// ---- What differs from page to page ----------------------------------------------------------
+
+// Entries from all over the list, the first one of each step.
+void ChooseLines(ComboBox& combo, int lines, const std::function<void()>& chosen) {
+  const int entries = static_cast<int>(combo.items().size());
+  const int step = std::max(entries / lines, 1);
+  for (int line = 0; line < lines && line * step < entries; ++line) {
+    combo.Choose(line * step);
+    if (chosen) chosen();
+  }
+}
+
+void TellChoices(const GridControl& grid, Cell first, int lines, FilledPage& filled) {
+  for (int row = first.row; row < first.row + lines; ++row) {
+    filled.cells.push_back(
+        {grid.name(), grid.index(), first.column, row, grid.GetText(first.column, row)});
+  }
+}
+
+void FillHostels(Form& page, Figures& figures, FilledPage& filled) {
+  for (int hostel = 0; hostel < kHostels; ++hostel) {
+    page.Find<Button>("cmdAdd").Click();
+    filled.cells.clear();
+    FillGrid(page.Find<GridControl>("gridGeneralInfo"), figures, filled.cells);
+    page.Find<Button>("cmdSaveHostel").Click();
+  }
+  TellChoices(page.Find<GridControl>("gridhostels"), {1, 1}, kHostels, filled);
+  FillGrid(page.Find<GridControl>("gridSETA"), figures, filled.cells);
+}
+
+void FillQualifications(Form& page, Figures& figures, FilledPage& filled) {
+  ChooseLines(page.Find<ComboBox>("cboSelect"), kQualifications,
+              [&] { page.Find<Button>("cmdOK").Click(); });
+  TellChoices(page.Find<GridControl>("gridPage12_2"), {3, 3}, kQualifications, filled);
+  TellChoices(page.Find<GridControl>("gridPage12_2"), {4, 3}, kQualifications, filled);
+  FillGrids(page, figures, filled.cells);
+}
+
+void FillSubjects(Form& page, Figures& figures, FilledPage& filled) {
+  page.Find<OptionButton>("optReport191").Click();
+  ChooseLines(page.Find<ComboBox>("cboSubject"), kSubjects, nullptr);
+  TellChoices(page.Find<GridControl>("gridSubjects"), {2, 2}, kSubjects, filled);
+  FillGrids(page, figures, filled.cells);
+}
+
+void AddQualification(Form& dialog, Figures& figures, FilledPage&) {
+  const int figure = figures.Next();
+  dialog.Find<ComboBox>("cboField").Choose(figure % 12);
+  dialog.Find<TextBox>("txtNQFID").Enter("99" + Padded(figure, 4));
+  dialog.Find<TextBox>("txtTitle").Enter(WordOf(figure));
+  dialog.Find<ComboBox>("cboLevel").Choose(figure % 3);
+}
+
+void AddSubject(Form& dialog, Figures& figures, FilledPage&) {
+  const int figure = figures.Next();
+  dialog.Find<TextBox>("txtSubjectName").Enter(WordOf(figure));
+  dialog.Find<TextBox>("txtSubjectCode").Enter("9900" + Padded(figure, 4));
+  dialog.Find<ComboBox>("cboProgramme").Choose(figure % 4);
+}
+
+struct PageFilling {
+  const char* page;
+  void (*fill)(Form& page, Figures& figures, FilledPage& filled);
+  const char* save = "cmdSave";
+};
+
+constexpr PageFilling kFillings[] = {
+    {"frmHostels", FillHostels},
+    {"frmPage12_1", FillQualifications},
+    {"frmEducatorTeaching", FillSubjects},
+    {"frmEducatorTeaching1", FillSubjects},
+    {"frmAddQualification", AddQualification},
+    {"frmAddSubjects", AddSubject, "cmdSaveSubject"},
+};
+
+// ---- From page to page -----------------------------------------------------------------------
+
+// Shows the page over what is on screen, fills it and closes it again; with nothing beneath it
+// stays.
+FilledPage ShowAndFill(Forms& forms, const std::string& name, Figures& figures) {
+  Form* const beneath = forms.Front();
+  if (beneath == nullptr) {
+    forms.Start(name);
+  } else {
+    forms.Dispatch(*beneath, [&] { forms.Show(name); });
+  }
+  FilledPage filled = FillPage(forms.Get(name), figures);
+  if (beneath != nullptr) forms.CloseBox(forms.Get(name));
+  return filled;
+}
+
+template <typename Pages>
+std::vector<FilledPage> FillPages(Forms& forms, const Pages& pages, Figures& figures) {
+  std::vector<FilledPage> filled;
+  for (const char* name : pages) filled.push_back(ShowAndFill(forms, name, figures));
+  return filled;
+}
+
+std::string StaffId(int member) { return "700101" + Padded(member, 4); }
+
+}  // namespace
+
+Figures::Figures(int first, int last) : first_(first), size_(last - first + 1), step_(1237) {
+  while (std::gcd(step_, size_) != 1) ++step_;
+}
+
+int Figures::Next() {
+  return first_ + static_cast<int>(static_cast<std::int64_t>(count_++) * step_ % size_);
+}
+
+std::string WordOf(int number) {
+  constexpr std::string_view kConsonants = "bdfghjklmnprstvw";
+  constexpr std::string_view kVowels = "aeiou";
+  constexpr int kWords = 80 * 80 * 80;
+  int rest = static_cast<int>(std::int64_t{number} * 7919 % kWords);
+  std::string word;
+  for (int syllable = 0; syllable < 3; ++syllable) {
+    word += kConsonants[static_cast<std::size_t>(rest % 16)];
+    word += kVowels[static_cast<std::size_t>(rest / 16 % 5)];
+    rest /= 80;
+  }
+  return UpperCase(word.substr(0, 1)) + word.substr(1);
+}
+
+FilledPage FillPage(Form& page, Figures& figures) {
+  FilledPage filled{page.name(), {}};
+  const auto* const filling = std::ranges::find(kFillings, page.name(), &PageFilling::page);
+  if (filling == std::end(kFillings)) {
+    FillGrids(page, figures, filled.cells);
+    page.Find<Button>("cmdSave").Click();
+  } else {
+    filling->fill(page, figures, filled);
+    page.Find<Button>(filling->save).Click();
+  }
+  return filled;
+}
+
+std::vector<FilledPage> FillCampus(Forms& forms, Figures& figures) {
+  return FillPages(forms, kCampusPages, figures);
+}
+
+std::vector<FilledPage> FillStaffMember(Forms& forms, const std::string& id, Figures& figures) {
+  for (const char* page : kStaffPages) {
+    forms.Get(page).EducatorId = id;
+    forms.Get(page).EmisNumber = forms.survey().CollegeEmisNumber;
+  }
+  forms.Get("frmEducatorData").FormMode = "New";
+  return FillPages(forms, kStaffPages, figures);
+}
+
+void AddStaff(Forms& forms, int members, Figures& figures) {
+  FillStaffMember(forms, StaffId(1), figures);
+  Connection& store = *forms.survey().DatabaseConnection;
+  std::string script = "begin;";
+  for (const std::string table : kStaffTables) {
+    const std::string copy = "copy_of_" + table;
+    script += "create temp table " + copy + " as select * from " + table + " where IDNumber = '" +
+              StaffId(1) + "';";
+    for (int member = 2; member <= members; ++member) {
+      script +=
+          "update " + copy + " set IDNumber = '" + StaffId(member) + "'" +
+          (table == "tbl_StaffDetail" ? ", Surname = '" + UpperCase(WordOf(member)) + "'" : "") +
+          ";insert into " + table + " select * from " + copy + ";";
+    }
+    script += "drop table " + copy + ";";
+  }
+  store.ExecuteScript((script + "commit").c_str());
+}
+
+}  // namespace survey::testing
