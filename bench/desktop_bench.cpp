@@ -1,11 +1,16 @@
 // What the user waits for: the first window, and a page after its click; and what it takes of the
-// memory. Under a display or with the offscreen platform.
+// memory. Each beside the toolkit alone: a window with a label, and the page's texts in plain
+// tables. Under a display or with the offscreen platform.
 
 #include <unistd.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QMainWindow>
+#include <QProcess>
+#include <QTableWidget>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -57,9 +62,33 @@ double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-// Milliseconds from the click that shows a page to its picture, the median of some.
-double MillisecondsToShow(Desktop& desktop, const std::string& page) {
-  std::vector<double> times;
+// The texts of the page's grids in plain tables, as the content of a plain window.
+QWidget* PlainTables(const Form& page) {
+  auto* tables = new QWidget;
+  auto* column = new QVBoxLayout(tables);
+  for (const Control* control : page.controls()) {
+    const auto* grid = dynamic_cast<const GridControl*>(control);
+    if (grid == nullptr) continue;
+    auto* table = new QTableWidget(grid->MaxRows(), grid->MaxColumns());
+    for (int row = 1; row <= grid->MaxRows(); ++row) {
+      for (int cell = 1; cell <= grid->MaxColumns(); ++cell) {
+        const QString text = QString::fromStdString(grid->GetText(cell, row));
+        table->setItem(row - 1, cell - 1, new QTableWidgetItem(text));
+      }
+    }
+    column->addWidget(table);
+  }
+  return tables;
+}
+
+struct Showing {
+  std::vector<double> ours;   // milliseconds from the click that shows a page to its picture
+  std::vector<double> plain;  // and until its texts stand in plain tables
+};
+
+// By turns, in windows of one size.
+Showing Show(Desktop& desktop, QMainWindow& plain, const std::string& page) {
+  Showing times;
   constexpr int kTimes = 11;
   for (int i = 0; i < kTimes; ++i) {
     Form& menu = *desktop.forms().Front();
@@ -70,7 +99,11 @@ double MillisecondsToShow(Desktop& desktop, const std::string& page) {
       desktop.forms().Unload(menu);
     });
     Settle(desktop.view().window());
-    times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    times.ours.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    timer.restart();
+    plain.setCentralWidget(PlainTables(desktop.forms().Get(page)));
+    Settle(plain);
+    times.plain.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
     Form& shown = *desktop.forms().Front();
     desktop.forms().Dispatch(shown, [&] {
       desktop.forms().Show("frmMainMenu");
@@ -78,7 +111,35 @@ double MillisecondsToShow(Desktop& desktop, const std::string& page) {
     });
     Settle(desktop.view().window());
   }
-  return Median(times);
+  return times;
+}
+
+// What the toolkit alone takes for a window: run as a process of its own.
+constexpr char kPlainWindow[] = "--plain-window";
+
+int ShowPlainWindow(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  QMainWindow window;
+  window.setCentralWidget(new QLabel("A window"));
+  window.show();
+  Settle(window);
+  std::printf("%f %f\n", 1e3 * SecondsSinceStart(), ResidentMebibytes());
+  return 0;
+}
+
+void TellFirstWindow(const char* program) {
+  const double milliseconds = 1e3 * SecondsSinceStart();
+  const double mebibytes = ResidentMebibytes();
+  QProcess plain;
+  plain.start(program, {kPlainWindow});
+  plain.waitForFinished();
+  const QList<QByteArray> figures = plain.readAllStandardOutput().split(' ');
+  const double plain_milliseconds = figures.value(0).toDouble();
+  const double plain_mebibytes = figures.value(1).toDouble();
+  std::printf("%-24s%6.0f ms  plain %6.0f ms  ratio %5.2f\n", "first window", milliseconds,
+              plain_milliseconds, milliseconds / plain_milliseconds);
+  std::printf("%-24s%6.0f MiB plain %6.0f MiB ratio %5.2f\n", "memory then", mebibytes,
+              plain_mebibytes, mebibytes / plain_mebibytes);
 }
 
 int Run(int argc, char** argv) {
@@ -89,8 +150,7 @@ int Run(int argc, char** argv) {
   RegisterPages(desktop.forms());
   desktop.forms().Start("frmSelectDatabase");
   Settle(desktop.view().window());
-  std::printf("first window        %6.0f ms, %.0f MiB\n", 1e3 * SecondsSinceStart(),
-              ResidentMebibytes());
+  TellFirstWindow(argv[0]);
 
   const testing::TemporaryFolder folder;
   const auto database = folder.path() / "bench.mdb";
@@ -104,18 +164,28 @@ int Run(int argc, char** argv) {
     desktop.forms().Show("frmMainMenu");
     desktop.forms().Unload(first);
   });
+  QMainWindow plain;
+  plain.resize(desktop.view().window().size());
+  plain.show();
   std::string last;
   for (const Link& link : PageChain()) {
     const std::string page(link.page);
     if (page == last || !desktop.forms().IsBuilt(page)) continue;
     last = page;
-    std::printf("%-20s%6.1f ms\n", page.c_str(), MillisecondsToShow(desktop, page));
+    const Showing times = Show(desktop, plain, page);
+    const double ours = Median(times.ours);
+    const double baseline = Median(times.plain);
+    std::printf("%-24s%6.1f ms  plain %6.1f ms  ratio %5.2f\n", page.c_str(), ours, baseline,
+                ours / baseline);
   }
-  std::printf("after all pages     %.0f MiB\n", ResidentMebibytes());
+  std::printf("%-24s%6.0f MiB\n", "memory after all pages", ResidentMebibytes());
   return 0;
 }
 
 }  // namespace
 }  // namespace survey::bench
 
-int main(int argc, char** argv) { return survey::bench::Run(argc, argv); }
+int main(int argc, char** argv) {
+  const bool plain = argc > 1 && std::string_view(argv[1]) == survey::bench::kPlainWindow;
+  return plain ? survey::bench::ShowPlainWindow(argc, argv) : survey::bench::Run(argc, argv);
+}

@@ -11,15 +11,27 @@
 namespace survey::testing {
 namespace {
 
-constexpr const char* kCampusPages[] = {
-    "frmPage2",           "frmHostels",  "frmPage4",    "frmStudentTotal", "frmPage3",
-    "frmPage5",           "frmPage6_1",  "frmPage8",    "frmPage9",        "frmPage9_1",
-    "frmOtherProgrammes", "frmPage12_1", "frmPage12_2", "frmPage9_10",     "frmPage9_10_1",
-    "frmPage14",          "frmPage13",
-};
-constexpr const char* kStaffPages[] = {
-    "frmEducatorData",      "frmLecQualifications1", "frmLecQualifications2",
-    "frmEducatorTeaching1", "frmEducatorTeaching",   "frmEducatorTeaching2",
+constexpr const char* kCampusTables[] = {
+    "tbl_StudentEnrolment",
+    "tbl_StudentAgreements",
+    "tbl_StudentRegistration",
+    "tbl_StudentFTE",
+    "tbl_StudentPopulationGroup191",
+    "tbl_StudentPopulationGroupNCV",
+    "tbl_StudentPopulationGroupNSC",
+    "tbl_StudentPopulationGroupAET",
+    "tbl_Level5Programmes",
+    "tbl_StudentRegistrationOccupational",
+    "tbl_StudentPopulationGroupOcc",
+    "tbl_StudentAgeLevel2",
+    "tbl_StudentAgeEnrolment",
+    "tbl_SNEStudentEnrolment",
+    "tbl_StudentBoarders",
+    "tbl_GeneralInformation",
+    "tbl_StaffCount",
+    "tbl_LectureStaff",
+    "tbl_Hostels",
+    "tbl_SETAAccreditation",
 };
 constexpr const char* kStaffTables[] = {
     "tbl_StaffDetail",
@@ -211,6 +223,22 @@ std::vector<FilledPage> FillPages(Forms& forms, const Pages& pages, Figures& fig
   return filled;
 }
 
+// Stores the records that fulfil the condition so many times more, each time changed.
+template <typename Tables, typename Change>
+void CopyRecords(Connection& store, const Tables& tables, const std::string& condition, int copies,
+                 const Change& change) {
+  std::string script = "begin;";
+  for (const std::string table : tables) {
+    script += "create temp table copied as select * from " + table + " where " + condition + ";";
+    for (int copy = 1; copy <= copies; ++copy) {
+      script += "update copied set " + change(table, copy) + ";insert into " + table +
+                " select * from copied;";
+    }
+    script += "drop table copied;";
+  }
+  store.ExecuteScript((script + "commit").c_str());
+}
+
 std::string StaffId(int member) { return "700101" + Padded(member, 4); }
 
 }  // namespace
@@ -265,21 +293,23 @@ std::vector<FilledPage> FillStaffMember(Forms& forms, const std::string& id, Fig
 
 void AddStaff(Forms& forms, int members, Figures& figures) {
   FillStaffMember(forms, StaffId(1), figures);
-  Connection& store = *forms.survey().DatabaseConnection;
-  std::string script = "begin;";
-  for (const std::string table : kStaffTables) {
-    const std::string copy = "copy_of_" + table;
-    script += "create temp table " + copy + " as select * from " + table + " where IDNumber = '" +
-              StaffId(1) + "';";
-    for (int member = 2; member <= members; ++member) {
-      script +=
-          "update " + copy + " set IDNumber = '" + StaffId(member) + "'" +
-          (table == "tbl_StaffDetail" ? ", Surname = '" + UpperCase(WordOf(member)) + "'" : "") +
-          ";insert into " + table + " select * from " + copy + ";";
-    }
-    script += "drop table " + copy + ";";
-  }
-  store.ExecuteScript((script + "commit").c_str());
+  CopyRecords(*forms.survey().DatabaseConnection, kStaffTables, "IDNumber = '" + StaffId(1) + "'",
+              members - 1, [](const std::string& table, int copy) {
+                const std::string id = "IDNumber = '" + StaffId(copy + 1) + "'";
+                if (table != "tbl_StaffDetail") return id;
+                return id + ", Surname = '" + UpperCase(WordOf(copy + 1)) + "'";
+              });
+}
+
+void AddSites(Forms& forms, int sites) {
+  const Survey& survey = forms.survey();
+  CopyRecords(*survey.DatabaseConnection, kCampusTables,
+              "CollegeEmisNumber = " + NumberText(survey.CollegeEmisNumber) +
+                  " and CampusEmisNumber = " + NumberText(survey.CampusEmisNumber),
+              sites, [](const std::string&, int copy) {
+                return "CollegeEmisNumber = " + std::to_string(100'000 + copy) +
+                       ", CampusEmisNumber = " + std::to_string(200'000 + copy);
+              });
 }
 
 }  // namespace survey::testing

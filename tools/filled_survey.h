@@ -8,6 +8,19 @@
 
 namespace survey::testing {
 
+// The pages of a campus, in the order of the survey.
+inline constexpr const char* kCampusPages[] = {
+    "frmPage2",           "frmHostels",  "frmPage4",    "frmStudentTotal", "frmPage3",
+    "frmPage5",           "frmPage6_1",  "frmPage8",    "frmPage9",        "frmPage9_1",
+    "frmOtherProgrammes", "frmPage12_1", "frmPage12_2", "frmPage9_10",     "frmPage9_10_1",
+    "frmPage14",          "frmPage13",
+};
+// The pages of a staff member.
+inline constexpr const char* kStaffPages[] = {
+    "frmEducatorData",      "frmLecQualifications1", "frmLecQualifications2",
+    "frmEducatorTeaching1", "frmEducatorTeaching",   "frmEducatorTeaching2",
+};
+
 // Figures that all differ until the range is used up, in an order that looks like chance and is
 // the same in every run.
 class Figures {
@@ -60,6 +73,9 @@ std::vector<FilledPage> FillStaffMember(Forms& forms, const std::string& id, Fig
 // As many staff members, with IDs from "7001010001" on: the first entered on the pages, the others
 // copied from him or her in the store under IDs and surnames of their own. Nothing may be unsaved.
 void AddStaff(Forms& forms, int members, Figures& figures);
+
+// As many other sites that hold what the context's site holds of its campus, copied in the store.
+void AddSites(Forms& forms, int sites);
 
 }  // namespace survey::testing
 
