@@ -58,22 +58,22 @@ void Form::FollowLink(const Button& button, const Button* cmdSave) {
   if (!unload_first && link->leaving != Leaving::kStays) forms_.Unload(*this);
 }
 
-bool Form::Trap(const ErrorName& name, const std::function<void()>& body) {
-  return Try(body, [&](const RunTimeError& failure) {
+bool Form::Trap(const ErrorName& name, const std::function<void()>& body, Commit commit) {
+  return Try(body, commit, [&](const RunTimeError& failure) {
     if (forms_.IsUnseenWork()) throw RunTimeError(failure);
     boxes().ReportError(name.location, failure.what(), name.procedure, failure.number());
   });
 }
 
 bool Form::TrapSilently(const std::function<void()>& body) {
-  return Try(body, [](const RunTimeError&) {});
+  return Try(body, Commit::kAtEnd, [](const RunTimeError&) {});
 }
 
-bool Form::Try(const std::function<void()>& body,
+bool Form::Try(const std::function<void()>& body, Commit commit,
                const std::function<void(const RunTimeError&)>& tell) {
   try {
     body();
-    survey().EndStatements();
+    if (commit == Commit::kAtEnd) survey().EndStatements();
     return true;
   } catch (const RunTimeError& failure) {
     // What was done before the failure stays done; if even that cannot be committed, the user

@@ -19,6 +19,12 @@ struct ErrorName {
   const char* procedure = "";
 };
 
+// When a trap commits what its body wrote.
+enum class Commit {
+  kAtEnd,        // with the body: a commit that fails is told under the trap's name
+  kWithHandler,  // with what the handler writes behind it, so that a kill leaves all of it or none
+};
+
 // A window of the program. One instance a run, made on first use; it outlives its unloading, its
 // public properties with it, while its controls return to their design at each load. Those that
 // Forms::Unseen makes besides go with the work.
@@ -71,7 +77,8 @@ class Form {
 
   // Runs `body` and commits what it wrote; a failure of either is reported under `name`, and
   // the handler goes on behind it. False after a failure. Throws it in Forms::Unseen.
-  bool Trap(const ErrorName& name, const std::function<void()>& body);
+  bool Trap(const ErrorName& name, const std::function<void()>& body,
+            Commit commit = Commit::kAtEnd);
   // The same without a word.
   bool TrapSilently(const std::function<void()>& body);
   // Goes where the page chain says this button leads. `cmdSave` carries the unsaved mark that a
@@ -83,7 +90,8 @@ class Form {
   friend class Control;
   friend class Forms;
 
-  bool Try(const std::function<void()>& body, const std::function<void(const RunTimeError&)>& tell);
+  bool Try(const std::function<void()>& body, Commit commit,
+           const std::function<void(const RunTimeError&)>& tell);
   Control& FindControl(std::string_view name, int index) const;
   void Load();
 

@@ -322,7 +322,7 @@ void FrmEducatorData::GetEducatorInformation(const std::string& id) {
 }
 
 void FrmEducatorData::SaveEducatorInformation() {
-  Trap(kSaveRoutine, [this] {
+  const auto save = [this] {
     const std::string id = TextOf(gridgeneral, IsSouthAfrican() ? kIdNumber : kPassportNumber);
     if (!IsComplete(id)) return;
     Recordset stored;
@@ -331,7 +331,8 @@ void FrmEducatorData::SaveEducatorInformation() {
                     SqlEscape(EducatorId) + "'",
                 survey().DatabaseConnection.get());
     survey().Execute(stored.Eof() ? Insert(id) : Update(id));
-  });
+  };
+  Trap(kSaveRoutine, save, Commit::kWithHandler);
 }
 
 // Question 4.10. Throws TypeMismatch() where it is not answered.
