@@ -160,6 +160,7 @@ bool FrmSelectDatabase::ContinueWithExisting() {
 }
 
 void FrmSelectDatabase::Continue() {
+  remembered_path_.clear();  // a path that was refused before is not what is chosen now
   if (chkNew.Value()) {
     // The choice goes on here when frmDatabase has made the file, or was given up.
     forms().Unload(*this);

@@ -7,6 +7,7 @@ YearOfBirthPage::YearOfBirthPage(Forms& forms, std::string name, const YearOfBir
       gridPage9_1(*this, "gridPage9_1", table.design),
       table_(table) {
   gridPage9_1.on_cell = [this](int, int row) { HighlightRow(row); };
+  gridPage9_1.on_click = gridPage9_1.on_cell;  // of the first cell, where the cursor is already
   gridPage9_1.on_change = [this](int, int) {
     MarkUnsaved();
     // The first cell is typed into without a move: the page has put the cursor there.

@@ -98,6 +98,8 @@ TEST_F(AgesByGender, UnknownCodesGoToTheColumnOfTheRecordBefore) {
 }
 
 TEST_F(AgesByGender, TheHighlightLeavesTheOtherProgrammesOut) {
+  Table().Click(2, 4);  // where the page has put the cursor
+  EXPECT_EQ(YellowOf(4), "_yyyyyyyyyy__________");
   for (const int row : {29, 9}) Table().MoveTo(12, row);
   EXPECT_EQ(YellowOf(9), "_yyyyyyyyyy__________");
   EXPECT_EQ(YellowOf(29), std::string(21, '_'));

@@ -107,6 +107,9 @@ TEST_F(SelectDatabase, AListedDatabaseEmptiesTheRememberedPathWhichElseIsUsed) {
   settings.written.clear();
   Start("chkExisting");
   EXPECT_EQ(Path(), path);
+  The<TextBox>(kForm, "txtpath").Enter("/nowhere/x.mdb");
+  Continue();
+  EXPECT_NE(LastBox(), "");  // refused, and not remembered either
   List().Choose(0);
   Continue();
   EXPECT_EQ(Front(), "frmSelectCollege");
