@@ -12,6 +12,7 @@ namespace {
 
 // Colours that are the same whatever the survey says.
 constexpr QColor kText(0, 0, 0);
+constexpr QColor kTextOnDark(255, 255, 255);
 constexpr QColor kLine(96, 96, 96);
 constexpr QColor kSelection(40, 120, 215, 90);
 constexpr QColor kCursor(0, 60, 140);
@@ -26,6 +27,10 @@ constexpr int kTopPadding = 10;
 constexpr int kBoxSide = 200;
 constexpr int kCursorWidth = 28;
 constexpr double kSmallestText = 0.65;  // of the usual size
+constexpr int kDark = 100;              // grey, up to which black on it is hard to read
+
+// On a printer without colours too: there the red of a wrong total is a dark grey.
+QColor InkOn(const QColor& ground) { return qGray(ground.rgb()) < kDark ? kTextOnDark : kText; }
 
 QColor ToQColor(Color color) {
   return QColor(static_cast<int>(color & 0xFFU), static_cast<int>((color >> 8U) & 0xFFU),
@@ -62,6 +67,7 @@ Qt::Alignment ToQt(Alignment alignment) {
 struct GridPainter::Setting {
   QString text;
   QString sign;  // says without the colour what the colour says
+  QColor ink = kText;
   Qt::Alignment alignment = Qt::AlignLeft;
   bool bold = false;
   bool wraps = true;  // a number never does
@@ -114,6 +120,7 @@ QColor GridPainter::ColorOf(Cell cell) const {
 GridPainter::Setting GridPainter::SettingOf(Cell cell, const CellLook& look) const {
   Setting setting;
   setting.text = cell.row == 0 ? HeadText(grid_, cell.column) : ShownText(grid_, cell);
+  setting.ink = InkOn(ColorOf(cell));
   const bool head = cell.row <= sheet_.head_rows();
   setting.bold =
       head || grid_.IsBold(cell.column, cell.row) || grid_.IsTotal(cell.column, cell.row);
@@ -202,7 +209,7 @@ void GridPainter::PaintText(QPainter& painter, const QRect& cell, const Setting&
   const QRect room = cell.adjusted(side, top, -side, -top);
   QFont font = font_;
   font.setBold(setting.bold);
-  painter.setPen(kText);
+  painter.setPen(setting.ink);
   int flags = static_cast<int>(setting.alignment | Qt::AlignVCenter) |
               (setting.wraps ? Qt::TextWordWrap : Qt::TextSingleLine);
   const int usual = font_.pixelSize();
