@@ -106,15 +106,15 @@ void Answer(GridControl& grid, Cell cell, Figures& figures) {
   }
 }
 
+FilledCell Told(const GridControl& grid, Cell cell) {
+  return {grid.name(), grid.index(), cell.column, cell.row, grid.GetText(cell.column, cell.row)};
+}
+
 void FillGrid(GridControl& grid, Figures& figures, std::vector<FilledCell>& filled) {
-  const auto told = [&](Cell cell) {
-    filled.push_back(
-        {grid.name(), grid.index(), cell.column, cell.row, grid.GetText(cell.column, cell.row)});
-  };
   for (auto cell = grid.NextOpenCell({0, 1}); cell; cell = grid.NextOpenCell(*cell)) {
     if (grid.IsTotal(cell->column, cell->row)) continue;
     Answer(grid, *cell, figures);
-    told(*cell);
+    filled.push_back(Told(grid, *cell));
   }
 }
 
@@ -137,10 +137,9 @@ void ChooseLines(ComboBox& combo, int lines, const std::function<void()>& chosen
   }
 }
 
-void TellChoices(const GridControl& grid, Cell first, int lines, FilledPage& filled) {
+void TellLines(const GridControl& grid, Cell first, int lines, FilledPage& filled) {
   for (int row = first.row; row < first.row + lines; ++row) {
-    filled.cells.push_back(
-        {grid.name(), grid.index(), first.column, row, grid.GetText(first.column, row)});
+    filled.cells.push_back(Told(grid, {first.column, row}));
   }
 }
 
@@ -151,22 +150,23 @@ void FillHostels(Form& page, Figures& figures, FilledPage& filled) {
     FillGrid(page.Find<GridControl>("gridGeneralInfo"), figures, filled.cells);
     page.Find<Button>("cmdSaveHostel").Click();
   }
-  TellChoices(page.Find<GridControl>("gridhostels"), {1, 1}, kHostels, filled);
+  TellLines(page.Find<GridControl>("gridhostels"), {1, 1}, kHostels, filled);
   FillGrid(page.Find<GridControl>("gridSETA"), figures, filled.cells);
 }
 
+// Some qualifications open other cells of their line, which are not stored.
 void FillQualifications(Form& page, Figures& figures, FilledPage& filled) {
+  auto& grid = page.Find<GridControl>("gridPage12_2");
   ChooseLines(page.Find<ComboBox>("cboSelect"), kQualifications,
               [&] { page.Find<Button>("cmdOK").Click(); });
-  TellChoices(page.Find<GridControl>("gridPage12_2"), {3, 3}, kQualifications, filled);
-  TellChoices(page.Find<GridControl>("gridPage12_2"), {4, 3}, kQualifications, filled);
-  FillGrids(page, figures, filled.cells);
+  for (int row = 3; row < 3 + kQualifications; ++row) Answer(grid, {8, row}, figures);
+  for (const int column : {3, 4, 8}) TellLines(grid, {column, 3}, kQualifications, filled);
 }
 
 void FillSubjects(Form& page, Figures& figures, FilledPage& filled) {
   page.Find<OptionButton>("optReport191").Click();
   ChooseLines(page.Find<ComboBox>("cboSubject"), kSubjects, nullptr);
-  TellChoices(page.Find<GridControl>("gridSubjects"), {2, 2}, kSubjects, filled);
+  TellLines(page.Find<GridControl>("gridSubjects"), {2, 2}, kSubjects, filled);
   FillGrids(page, figures, filled.cells);
 }
 
