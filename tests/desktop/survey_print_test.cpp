@@ -1,45 +1,142 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFile>
+#include <QProcess>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
+#include <map>
 
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_printer.h"
+#include "filled_survey.h"
 #include "pages/register_pages.h"
+#include "printing/staff_print.h"
 #include "shell/register_shell.h"
 #include "world.h"
 
 namespace survey::testing {
 namespace {
 
-TEST(SurveyPrintFile, HoldsEachPageOfTheCampusAndOfEachStaffMember) {
-  World world;
-  QtPrinter printer;
-  Forms forms(world.survey, {world.dialogs, printer, world.settings, world.program_folder});
-  RegisterShell(forms);
-  RegisterPages(forms);
-  world.OpenSite(101, 202);
-  world.RunScript(
-      "insert into tbl_StaffDetail(CollegeEmisNumber,CampusEmisNumber,SurveyYear,IDNumber,Surname)"
-      " values(101,202,2012,'7501','A'),(101,202,2012,'7502','B')");
-  const auto sheets_of = [&](const char* form) {
-    const std::filesystem::path path = world.folder.path() / "print.pdf";
-    printer.PrintToFile(QString::fromStdString(path.string()));
-    forms.Get(form).Find<Button>("cmdPrintSurvey").Click();
-    printer.Finish();
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll().count("/MediaBox");
-  };
-  forms.Start("frmSelectEducator");
-  forms.Get("frmSelectEducator").Find<CheckBox>("chAll").Click();
-  EXPECT_EQ(sheets_of("frmSelectEducator"), 2 * 5);
-  forms.Start("frmMainMenu");
-  EXPECT_EQ(sheets_of("frmMainMenu"), 16);
-  EXPECT_TRUE(world.dialogs.seen.empty());
+// How often each word stands on a sheet.
+using Sheet = std::map<QString, int>;
+
+std::vector<Sheet> SheetsOf(const QString& file) {
+  QProcess reader;
+  reader.start("pdftotext", {"-raw", file, "-"});
+  EXPECT_TRUE(reader.waitForFinished()) << "pdftotext is not installed";
+  std::vector<Sheet> sheets;
+  for (const QString& text : QString::fromUtf8(reader.readAllStandardOutput()).split('\f')) {
+    sheets.emplace_back();
+    for (const QString& word : text.simplified().split(' ')) ++sheets.back()[word];
+  }
+  sheets.pop_back();  // behind the last page break
+  return sheets;
+}
+
+// A survey of 2010, which is what the menu prints, and of two staff members, all cells answered.
+class FilledSurvey : public World, public ::testing::Test {
+ protected:
+  FilledSurvey() : forms_(survey, {dialogs, printer_, settings, program_folder}) {
+    RegisterShell(forms_);
+    RegisterPages(forms_);
+    OpenSite(199010830, 108107587);
+    forms_.Get("frmMainMenu").EditMode = "Edit";
+    forms_.Start("frmMainMenu");
+    survey.SurveyYear = 2010;
+    campus_ = FillCampus(forms_, figures_);
+  }
+
+  std::vector<Sheet> Print(const char* form, const char* button) {
+    const QString file = QString::fromStdString((folder.path() / "print.pdf").string());
+    printer_.PrintToFile(file);
+    forms_.Get(form).Find<Button>(button).Click();
+    printer_.Finish();
+    return SheetsOf(file);
+  }
+
+  // Takes off the sheet what was entered in these grids of the page, and the totals over it.
+  void ExpectOn(Sheet& sheet, const FilledPage& filled, const std::vector<PrintedGrid>& grids,
+                const std::string& id = {}) {
+    forms_.Unseen(filled.page, [&](Form& page) {
+      page.EducatorId = id;
+      page.FormMode = "Edit";
+      page.Form_Activate();
+      for (const PrintedGrid& printed : grids) {
+        const auto& grid = page.Find<GridControl>(printed.name, printed.index);
+        for (const FilledCell& cell : filled.cells) {
+          const bool told = cell.grid == printed.name && cell.index == printed.index &&
+                            grid.Kind(cell.column, cell.row).type != CellKind::Type::kCheckBox;
+          if (told && !IsDropped(filled.page, cell)) ExpectWords(sheet, filled.page, cell.text);
+        }
+        ExpectTotals(sheet, filled.page, grid);
+      }
+    });
+  }
+
+  Figures figures_;
+  QtPrinter printer_;
+  Forms forms_;
+  std::vector<FilledPage> campus_;
+
+ private:
+  // The country of citizenship, which the record has never taken.
+  static bool IsDropped(const std::string& page, const FilledCell& cell) {
+    return page == "frmEducatorData" && cell.grid == "gridgeneral" && cell.row == 8;
+  }
+  static void ExpectWords(Sheet& sheet, const std::string& page, const std::string& text) {
+    for (const QString& word : QString::fromStdString(text).simplified().split(' ')) {
+      EXPECT_GT(sheet[word]--, 0) << page << ": " << word.toStdString();
+    }
+  }
+  static void ExpectTotals(Sheet& sheet, const std::string& page, const Grid& grid) {
+    for (int row = 1; row <= grid.MaxRows(); ++row) {
+      for (int column = 1; column <= grid.MaxColumns(); ++column) {
+        if (!grid.IsTotal(column, row) || grid.GetText(column, row).empty()) continue;
+        ExpectWords(sheet, page, grid.GetText(column, row));
+      }
+    }
+  }
+};
+
+TEST_F(FilledSurvey, EveryAnswerAndTotalOfTheCampusStandsOnItsSheet) {
+  const std::string other = "frmOtherProgrammes";
+  std::vector<Sheet> sheets = Print("frmMainMenu", "cmdPrintSurvey");
+  ASSERT_EQ(sheets.size(), campus_.size() - 1);
+  auto sheet = sheets.begin();
+  for (const FilledPage& page : campus_) {
+    if (page.page == other) continue;
+    EXPECT_GT((*sheet)["108107587"], 0) << page.page << " bears the campus number";
+    ExpectOn(*sheet++, page, PrintOf(page.page).grids);
+  }
+  forms_.Start(other);
+  sheets = Print(other.c_str(), "cmdPrintPage");
+  ASSERT_EQ(sheets.size(), 1u);
+  ExpectOn(sheets[0], campus_[10], PrintOf(other).grids);
+  EXPECT_TRUE(dialogs.seen.empty());
+}
+
+TEST_F(FilledSurvey, EveryAnswerOfEachStaffMemberStandsOnTheSheetOfItsPage) {
+  const std::vector<std::string> ids = {"7001015001", "7001015002"};
+  std::map<std::string, std::vector<FilledPage>> filled;
+  for (const std::string& id : ids) filled[id] = FillStaffMember(forms_, id, figures_);
+  forms_.Start("frmSelectEducator");
+  auto& list = forms_.Get("frmSelectEducator").Find<GridControl>("gridEducator");
+  forms_.Get("frmSelectEducator").Find<CheckBox>("chAll").Click();
+  std::vector<Sheet> sheets = Print("frmSelectEducator", "cmdPrintSurvey");
+  ASSERT_EQ(sheets.size(), 2u * 5);
+  auto sheet = sheets.begin();
+  for (int row : {1, 2}) {
+    const std::string id = list.GetText(2, row);
+    EXPECT_GE((*sheet)[QString::fromStdString(id)], 2) << "the head and question 4.11";
+    auto page = filled[id].begin();
+    for (const StaffSheet& part : StaffSheets()) {
+      ExpectOn(*sheet, *page++, part.grids, id);
+      if (part.ends_sheet) ++sheet;
+    }
+    ++sheet;
+  }
+  EXPECT_TRUE(dialogs.seen.empty());
 }
 
 TEST(QtProgress, ShowsALongJobAndStopsIt) {
