@@ -238,6 +238,7 @@ void FrmSelectEducator::PrintAllMembers() {
     if (!progress->Step(row - 1, members, gridEducator.GetText(kNameColumn, row))) break;
     const std::string& id = gridEducator.GetText(kIdColumn, row);
     if (id.empty()) continue;
+    SelectedStaffId = id;  // stays so where the print fails
     PrintMember(id);
     printer.NewPage();
   }

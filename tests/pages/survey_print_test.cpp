@@ -170,11 +170,18 @@ TEST_F(SurveyPrint, NobodySelectedOrAFailureOfOnePageIsTold) {
     EXPECT_EQ(LastBox(), "Please select a staff member to continue");
   }
   EXPECT_THAT(printer.operations, ElementsAre("ShowPrinter", "ShowPrinter"));
-  Table().Click(1, 1);
-  RunScript("alter table tbl_StaffDetail rename to gone");
+  The<CheckBox>(kList, "chAll").Click();
+  printer.on_draw = [this](const Grid& grid) {  // of the second
+    if (grid.GetText(6, 3) == "S3") throw RunTimeError(482, "Printer error");
+  };
   Click("cmdPrintSurvey");
   EXPECT_EQ(dialogs.seen.size(), 1u);
   EXPECT_THAT(LastBox(), ToldBy("frmselecteducator", "Print Routine"));
+  EXPECT_EQ(std::tuple(CountOf("NewPage"), CountOf("EndDoc")), std::tuple(5, 0));
+  ExpectNothingLoadedBut(kList);
+  Click("cmdEdit");  // whose print failed is selected
+  EXPECT_EQ(forms.Front()->EducatorId, "7502");
+  forms.CloseBox(*forms.Front());
   printer.cancel = true;
   Click("cmdPrint");
   EXPECT_THAT(LastBox(), ToldBy("frmSelectEducator", "Print Routine"));
