@@ -1,6 +1,7 @@
 #include "filled_survey.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <numeric>
 #include <stdexcept>
@@ -67,6 +68,40 @@ std::string NumberWithin(const CellKind& kind, int figure) {
   return NumberText(number);
 }
 
+std::string LowerCase(std::string text) {
+  std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
+  return text;
+}
+
+std::string Telephone(int figure) { return "021555" + Padded(figure, 4); }
+
+// What a question asks for that the kind of its cell does not tell.
+struct Asked {
+  const char* words;  // of the question
+  std::string (*answer)(int figure);
+};
+// clang-format off
+constexpr Asked kAsked[] = {
+    {"E-mail", [](int figure) { return "info@" + LowerCase(WordOf(figure)) + ".co.za"; }},
+    {"Website", [](int figure) { return "www." + LowerCase(WordOf(figure)) + ".co.za"; }},
+    {"Telephone", Telephone},
+    {"Fax", Telephone},
+    {"Title", [](int figure) { return std::string(figure % 2 == 0 ? "MS" : "MR"); }},
+    {"Initials", [](int figure) { return UpperCase(WordOf(figure)).substr(0, 1) + "J"; }},
+    {"Please give year", [](int figure) { return std::to_string(1990 + figure % 22); }},
+    {"South African citizen", [](int) { return std::string("1"); }},
+};
+// clang-format on
+
+// The nearest text to the left.
+std::string QuestionOf(const GridControl& grid, Cell cell) {
+  for (int column = cell.column - 1; column > 0; --column) {
+    const std::string& text = grid.GetText(column, cell.row);
+    if (!text.empty()) return text;
+  }
+  return {};
+}
+
 std::string AnswerOf(const CellKind& kind, int figure) {
   constexpr int kTelephone = 10;  // digits
   constexpr int kLine = 50;       // characters that give room for two words
@@ -74,7 +109,8 @@ std::string AnswerOf(const CellKind& kind, int figure) {
     case CellKind::Type::kNumber:
       return NumberWithin(kind, figure);
     case CellKind::Type::kDigits:
-      return (kind.length < kTelephone ? "" : "021555") + Padded(figure, std::min(kind.length, 4));
+      if (kind.length == kTelephone) return Telephone(figure);
+      return (kind.length < kTelephone ? "" : "80210") + Padded(figure, std::min(kind.length, 4));
     case CellKind::Type::kDate:
       return std::to_string(1950 + figure % 40) + "/" + Padded(1 + figure % 12, 2) + "/" +
              Padded(1 + figure % 28, 2);
@@ -100,7 +136,13 @@ void Answer(GridControl& grid, Cell cell, Figures& figures) {
   grid.MoveTo(column, row);
   const CellKind& kind = grid.Kind(column, row);
   if (kind.type != CellKind::Type::kCheckBox) {
-    Require(grid.Type(column, row, AnswerOf(kind, figures.Next())), grid, cell);
+    const std::string question = QuestionOf(grid, cell);
+    const auto* const asked = std::ranges::find_if(
+        kAsked, [&](const Asked& some) { return question.find(some.words) != std::string::npos; });
+    const int figure = figures.Next();
+    const std::string answer =
+        asked == std::end(kAsked) ? AnswerOf(kind, figure) : asked->answer(figure);
+    Require(grid.Type(column, row, answer), grid, cell);
   } else if (grid.GetText(column, row) != "1") {
     Require(grid.Tick(column, row), grid, cell);
   }

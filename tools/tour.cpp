@@ -9,10 +9,13 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 
 #include "desktop/qt_printer.h"
 #include "desktop_driver.h"
+#include "filled_survey.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
 
@@ -94,11 +97,13 @@ class Tour {
   void FindSite(const std::string& picture);
   void ReturnByList();
   void CheckTable();
-  void PrintPages();
+  void PrintPage();
+  void PrintStaff();
+  void PrintSurvey();
   void Close();
 
  private:
-  void PrintTo(const std::string& name, const std::string& button);
+  void PrintTo(const std::string& name, const std::string& button, int sheets);
   static void Say(const std::string& step) { std::cout << step << std::endl; }
   void Save(QWidget& window, const std::string& name);
   void SaveFront(const std::string& name) { Save(*desktop_.view().FrontWindow(), name); }
@@ -276,22 +281,54 @@ void Tour::CheckTable() {
   Expect(!IsYellow("cmdSave"), "Save is not yellow on a page that was just opened");
 }
 
+int SheetsIn(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  const std::string pdf((std::istreambuf_iterator<char>(stream)), {});
+  int sheets = 0;
+  for (std::size_t at = 0; (at = pdf.find("/MediaBox", at)) != std::string::npos; ++at) ++sheets;
+  return sheets;
+}
+
 // What a print button leaves in a file.
-void Tour::PrintTo(const std::string& name, const std::string& button) {
+void Tour::PrintTo(const std::string& name, const std::string& button, int sheets) {
   const fs::path file = output_ / (name + ".pdf");
   fs::remove(file);
   auto& printer = dynamic_cast<QtPrinter&>(desktop_.forms().platform().printer);
   printer.PrintToFile(QString::fromStdString(file.string()));
   driver_.Click(button);
-  Expect(fs::exists(file) && fs::file_size(file) > 0, file.string() + " is written");
+  Expect(SheetsIn(file) == sheets, file.string() + " has " + std::to_string(sheets) + " sheets");
 }
 
-void Tour::PrintPages() {
-  Say("Table 2.5 is printed, and from the menu the whole survey");
-  PrintTo("18-table", "cmdPrintPage");
+void Tour::PrintPage() {
+  Say("Table 2.5 is printed");
+  PrintTo("18-table", "cmdPrintPage", 1);
   driver_.Click("cmdMenu");
   driver_.ExpectFront("frmMainMenu");
-  PrintTo("19-survey", "cmdPrintSurvey");
+}
+
+void Tour::PrintStaff() {
+  Say("Two staff members are entered on their six pages; the sheets of one and the list printed");
+  driver_.Click("cmdStaff");
+  driver_.ExpectFront("frmSelectEducator");
+  testing::Figures figures(1, 40);
+  for (const char* id : {"7405125083086", "8111300114089"}) {
+    testing::FillStaffMember(desktop_.forms(), id, figures);
+  }
+  driver_.ClickCell("gridEducator", 1, 1);
+  SaveFront("19-staff");
+  PrintTo("20-staff-member", "cmdPrintSurvey", 5);
+  PrintTo("21-staff-list", "cmdPrint", 1);
+  driver_.Click("cmdMenu");
+  driver_.ExpectFront("frmMainMenu");
+}
+
+void Tour::PrintSurvey() {
+  Say("Every page is filled in for the year that the menu prints, and the survey printed");
+  desktop_.survey().SurveyYear = 2010;
+  testing::Figures figures(11, 190);
+  testing::FillCampus(desktop_.forms(), figures);
+  driver_.ExpectFront("frmMainMenu");
+  PrintTo("22-survey", "cmdPrintSurvey", 16);
 }
 
 void Tour::Close() {
@@ -317,7 +354,9 @@ void SecondRun(const fs::path& output, const DesktopPlaces& places) {
   tour.FindDatabase();
   tour.FindSite("17-sites-again");
   tour.CheckTable();
-  tour.PrintPages();
+  tour.PrintPage();
+  tour.PrintStaff();
+  tour.PrintSurvey();
   tour.Close();
 }
 
