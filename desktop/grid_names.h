@@ -22,7 +22,9 @@ QString ColumnName(const Grid& grid, int column);
 // The labels of a row; where only its first ones are blank, it shares those of a row above, as in
 // the second row of a pair: "2.5.1 REPORT 191 N1 Programmes Female". Never empty.
 QString RowName(const Grid& grid, int row);
-QString CellName(const Grid& grid, Cell cell);  // row and column
+// Row and column; where these have no names the question that stands before or above the cell,
+// and its number where nothing else tells it from others.
+QString CellName(const Grid& grid, Cell cell);
 // "locked" or "total", and what is noted about the cell; "" for a plain cell.
 QString StateOf(const Grid& grid, Cell cell);
 // Table, row, column, value and state.
