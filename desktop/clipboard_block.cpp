@@ -12,23 +12,30 @@ constexpr QChar kTab = u'\t';
 constexpr QChar kLineEnd = u'\n';
 constexpr int kMostTold = 8;  // a longer list would not fit on the screen
 
+bool EndsCell(const QString& text, qsizetype at) {
+  return at >= text.size() || text[at] == kTab || text[at] == kLineEnd;
+}
+
+// The quote that closes the cell opened at `at`; -1 where none does. A cell that merely begins
+// with a quote is written as it is, and would else swallow what follows.
+qsizetype ClosingQuote(const QString& text, qsizetype at) {
+  for (++at; at < text.size(); ++at) {
+    if (text[at] != kQuote) continue;
+    if (at + 1 >= text.size() || text[at + 1] != kQuote) return EndsCell(text, at + 1) ? at : -1;
+    ++at;
+  }
+  return -1;
+}
+
 // Reads the cell that starts at `at` and leaves `at` on the tab or line end behind it.
 QString ReadCell(const QString& text, qsizetype& at) {
-  QString cell;
-  bool quoted = text[at] == kQuote;
-  if (quoted) ++at;
-  for (; at < text.size(); ++at) {
-    const QChar character = text[at];
-    if (quoted && character == kQuote) {
-      quoted = at + 1 < text.size() && text[at + 1] == kQuote;
-      if (!quoted) continue;
-      ++at;
-    } else if (!quoted && (character == kTab || character == kLineEnd)) {
-      break;
-    }
-    cell += text[at];
+  const qsizetype start = at;
+  if (const qsizetype close = text[at] == kQuote ? ClosingQuote(text, at) : -1; close > 0) {
+    at = close + 1;
+    return text.mid(start + 1, close - start - 1).replace(QStringLiteral("\"\""), kQuote);
   }
-  return cell;
+  while (!EndsCell(text, at)) ++at;
+  return text.mid(start, at - start);
 }
 
 QString WriteCell(QString cell) {

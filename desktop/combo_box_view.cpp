@@ -47,6 +47,12 @@ class ComboBoxWidget : public QComboBox {
     view()->installEventFilter(this);
   }
 
+  // Half of it where the form is too narrow; the list is as wide as its entries.
+  QSize minimumSizeHint() const override {
+    const QSize whole = QComboBox::minimumSizeHint();
+    return {whole.width() / 2, whole.height()};
+  }
+
   bool TakesCharacters() const { return box_.on_key_press != nullptr; }
 
   // Opens the list without telling the control, which wished it.

@@ -10,6 +10,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "desktop/button_keys.h"
 #include "desktop/combo_box_view.h"
 #include "desktop/grid_view.h"
 #include "desktop/list_box_view.h"
@@ -24,6 +25,9 @@ constexpr int kHeadingPercent = 130;
 // Longer texts are broken into lines instead of making the window wide.
 constexpr int kLongLabel = 60;
 constexpr int kLongLabelWidth = 260;
+// Shorter ones only where the room is too narrow, and the shortest never.
+constexpr int kShortLabel = 24;
+constexpr int kTextBoxCharacters = 6;  // that a box shows at least
 
 bool IsEnter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -31,10 +35,27 @@ bool IsEnter(const QKeyEvent& event) {
 
 // ---- Label ---------------------------------------------------------------------------------
 
+// A text that may be broken would ask for a square place: one that is not long asks for a line of
+// its own, and takes less than half of it.
+class LabelWidget : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  QSize sizeHint() const override { return MayBreak() ? OneLine() : QLabel::sizeHint(); }
+  QSize minimumSizeHint() const override {
+    return MayBreak() ? QSize(OneLine().width() * 2 / 5, OneLine().height())
+                      : QLabel::minimumSizeHint();
+  }
+
+ private:
+  bool MayBreak() const { return wordWrap() && text().size() <= kLongLabel; }
+  QSize OneLine() const { return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2, 0); }
+};
+
 class LabelView : public ControlView {
  public:
   LabelView(Label& label, QWidget* parent)
-      : ControlView(label, new QLabel(parent)),
+      : ControlView(label, new LabelWidget(parent)),
         label_(label),
         widget_(static_cast<QLabel&>(*widget())) {
     widget_.setTextFormat(Qt::PlainText);
@@ -49,9 +70,8 @@ class LabelView : public ControlView {
   void TakeOverState() override {
     const QString text = QString::fromStdString(label_.Caption).trimmed();
     if (widget_.text() == text) return;
-    const bool is_long = text.size() > kLongLabel;
-    widget_.setWordWrap(is_long);
-    widget_.setMinimumWidth(is_long ? kLongLabelWidth : 0);
+    widget_.setWordWrap(text.size() > kShortLabel);
+    widget_.setMinimumWidth(text.size() > kLongLabel ? kLongLabelWidth : 0);
     widget_.setText(text);
   }
 
@@ -117,6 +137,13 @@ class ButtonWidget : public QPushButton {
     }
   }
 
+  // A key of the form presses its button at once and leaves the cursor where it is.
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Shortcut) return QPushButton::event(event);
+    if (!static_cast<QShortcutEvent&>(*event).isAmbiguous()) click();
+    return true;
+  }
+
  private:
   Button& button_;
 };
@@ -136,8 +163,21 @@ class ButtonView : public ControlView {
  private:
   void TakeOverState() override {
     const QString caption = QString::fromStdString(button_.Caption).trimmed();
-    if (widget_.text() != caption) widget_.setText(caption);
+    if (widget_.text() != caption) {
+      widget_.setText(caption);
+      if (const QKeySequence key = KeyOfButton(caption); !key.isEmpty()) widget_.setShortcut(key);
+    }
+    TellKey();
     ShowBackColor(widget_, button_.BackColor, kButtonFace);
+  }
+
+  void TellKey() {
+    const QString key = widget_.shortcut().toString(QKeySequence::NativeText);
+    if (key.isEmpty()) return;
+    const QString tip = button_.ToolTip.empty() ? widget_.text().remove('&')
+                                                : QString::fromStdString(button_.ToolTip);
+    widget_.setToolTip(tip + QStringLiteral(" (%1)").arg(key));
+    widget_.setAccessibleDescription(QStringLiteral("Key: ") + key);
   }
 
   Button& button_;
@@ -204,6 +244,11 @@ class OptionButtonView : public ControlView {
 class TextBoxWidget : public QLineEdit {
  public:
   TextBoxWidget(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {}
+
+  QSize minimumSizeHint() const override {
+    const int text = kTextBoxCharacters * fontMetrics().horizontalAdvance(u'0');
+    return QLineEdit::minimumSizeHint() + QSize(text, 0);
+  }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {

@@ -1,8 +1,12 @@
 #include "desktop/desktop.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
+#include <QWidget>
+#include <algorithm>
 
 #include "desktop/pictures.h"
 #include "desktop/qt_dialogs.h"
@@ -14,6 +18,8 @@
 namespace survey {
 namespace {
 
+constexpr int kMarkLineAlpha = 170;
+
 // The same looks on every desktop, so that colours which mean something are seen everywhere.
 class SurveyStyle : public QProxyStyle {
  public:
@@ -24,6 +30,37 @@ class SurveyStyle : public QProxyStyle {
     // A list of thousands opens below its box and scrolls, instead of covering the screen.
     if (hint == SH_ComboBox_Popup) return 0;
     return QProxyStyle::styleHint(hint, option, widget, result);
+  }
+
+  // The style's own lines around a mark to tick are too faint for weak eyes.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool is_box = element == PE_IndicatorCheckBox;
+    if (!is_box && element != PE_IndicatorRadioButton) return;
+    QColor line = option->palette.color(QPalette::WindowText);
+    line.setAlpha(kMarkLineAlpha);
+    painter->save();
+    painter->setPen(line);
+    painter->setBrush(Qt::NoBrush);
+    painter->setRenderHint(QPainter::Antialiasing, !is_box);
+    const QRect mark = option->rect.adjusted(0, 0, -1, -1);
+    if (is_box) {
+      painter->drawRect(mark);
+    } else {
+      painter->drawEllipse(mark);
+    }
+    painter->restore();
+  }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool is_mark = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight ||
+                         metric == PM_ExclusiveIndicatorWidth ||
+                         metric == PM_ExclusiveIndicatorHeight;
+    // A mark to tick is as large as the text beside it.
+    return is_mark && widget != nullptr ? std::max(usual, widget->fontMetrics().ascent()) : usual;
   }
 };
 

@@ -1,6 +1,7 @@
 #include "desktop/entry_note.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <algorithm>
 #include <chrono>
 
@@ -43,15 +44,22 @@ void EntryNote::Show(const QString& text, const QWidget& on, const QRect& place)
   label_->raise();
   label_->show();
   timer_.start(kShown + text.size() * kShownPerCharacter);
-  view_.setAccessibleDescription(text);
+  Describe(text);
   QAccessibleEvent alert(label_, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
+}
+
+// Of what the user is in: the line that is typed into, or the view itself.
+void EntryNote::Describe(const QString& text) {
+  view_.setAccessibleDescription(text);
+  QWidget* focus = QApplication::focusWidget();
+  if (focus != nullptr && view_.isAncestorOf(focus)) focus->setAccessibleDescription(text);
 }
 
 void EntryNote::Hide() {
   timer_.stop();
   if (!label_) return;
-  view_.setAccessibleDescription({});
+  Describe({});
   label_->hide();
   label_->deleteLater();
   label_ = nullptr;

@@ -20,6 +20,8 @@ class EntryNote {
   void Hide();
 
  private:
+  void Describe(const QString& text);
+
   QWidget& view_;
   QPointer<QLabel> label_;  // a child of the view's window, which may end first
   QTimer timer_;

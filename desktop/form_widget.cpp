@@ -2,10 +2,12 @@
 
 #include <QBoxLayout>
 #include <QButtonGroup>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QStyle>
 #include <algorithm>
 #include <optional>
 
@@ -19,7 +21,7 @@ constexpr int kFrameMargin = 12;
 // A form stands in the middle of the window.
 constexpr int kReadingWidth = 860;
 // Stretch of what takes all it may before the space beside it takes any.
-constexpr int kFirst = 1000;
+constexpr int kFirst = 100000;
 constexpr int kFieldWidth = 520;
 constexpr int kDialogWidth = 480;
 constexpr int kWholeTable = 340;  // height up to which a table does not scroll by itself
@@ -71,6 +73,29 @@ class Contents : public QWidget {
   int heightForWidth(int width) const override { return layout()->minimumHeightForWidth(width); }
 };
 
+// Qt keeps a scroll bar that it needed once, where texts fit only without it.
+class ContentsArea : public QScrollArea {
+ public:
+  using QScrollArea::QScrollArea;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    ChooseBar();
+    QScrollArea::resizeEvent(event);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) ChooseBar();
+    return QScrollArea::eventFilter(watched, event);
+  }
+
+ private:
+  void ChooseBar() {
+    const QSize room = maximumViewportSize();
+    const bool fits = widget()->heightForWidth(room.width()) <= room.height();
+    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+  }
+};
+
 void SetUp(QBoxLayout& box) {
   box.setContentsMargins(0, 0, 0, 0);
   box.setSpacing(kSpacing);
@@ -79,7 +104,7 @@ void SetUp(QBoxLayout& box) {
 }  // namespace
 
 FormWidget::FormWidget(Form& form, QWidget* parent)
-    : QWidget(parent), form_(form), scroll_(new QScrollArea(this)) {
+    : QWidget(parent), form_(form), scroll_(new ContentsArea(this)) {
   setObjectName(QString::fromStdString(form.name()));
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
@@ -131,9 +156,10 @@ QVBoxLayout* FormWidget::AddBlock(QWidget& place) {
   return column;
 }
 
-// No wider than the tables are, or than reads well.
+// No wider than the tables are and the foot, or than reads well.
 void FormWidget::FitWidth() {
-  const int width = std::max(kReadingWidth, blocks_.front()->sizeHint().width());
+  int width = kReadingWidth;
+  for (const QWidget* block : blocks_) width = std::max(width, block->sizeHint().width());
   for (QWidget* block : blocks_) block->setMaximumWidth(width);
 }
 
@@ -177,7 +203,12 @@ QSize FormWidget::sizeHint() const {
     height += place.hasHeightForWidth() ? place.totalHeightForWidth(width)
                                         : place.totalSizeHint().height();
   }
-  return QSize(width, height).boundedTo(screen()->availableSize() * 0.9);
+  const QSize largest = screen()->availableSize() * 0.9;
+  if (height > largest.height()) {
+    width += style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+             style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarSpacing);
+  }
+  return QSize(width, height).boundedTo(largest);
 }
 
 // The first table with an open cell, else the first control that takes the focus.

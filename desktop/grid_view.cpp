@@ -22,6 +22,14 @@ namespace {
 
 constexpr double kPoints = 9;
 constexpr double kTwipsPerInch = 1440;
+// A table has the size it has on paper, so that it fits a small screen, until the desktop's texts
+// are set larger than desktops usually set them.
+constexpr double kUsualDesktopPoints = 11;
+
+double UnitsPerTwip(const QWidget& view) {
+  const double points = view.fontInfo().pointSizeF();
+  return view.logicalDpiX() / kTwipsPerInch * std::max(1.0, points / kUsualDesktopPoints);
+}
 
 // A table with heads of a list and nothing to type into.
 bool IsList(const GridDesign& design) {
@@ -47,7 +55,7 @@ GridView::GridView(GridControl& grid, QWidget* parent)
       heads_(new GridBand(Qt::Horizontal, ActionsOf(Pane::kHeads), this)),
       labels_(new GridBand(Qt::Vertical, ActionsOf(Pane::kLabels), this)),
       corner_(new GridCorner(ActionsOf(Pane::kCorner), this)),
-      sheet_(std::make_unique<GridSheet>(grid, logicalDpiX() / kTwipsPerInch)),
+      sheet_(std::make_unique<GridSheet>(grid, UnitsPerTwip(*this))),
       painter_(std::make_unique<GridPainter>(grid, *sheet_, font(), kPoints)),
       note_(std::make_unique<EntryNote>(*this)) {
   delegate_ = new GridDelegate(
@@ -93,7 +101,7 @@ void GridView::TakeOver() {
   taken_over_ = grid_.revision();
   const QScopedValueRollback following(following_, true);
   model_->TakeOver();
-  GridSheet sheet(grid_, logicalDpiX() / kTwipsPerInch);
+  GridSheet sheet(grid_, UnitsPerTwip(*this));
   if (sheet != *sheet_) {
     *sheet_ = std::move(sheet);
     painter_ = std::make_unique<GridPainter>(grid_, *sheet_, font(), kPoints);

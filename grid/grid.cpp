@@ -20,7 +20,7 @@ void Grid::Reset() {
   }
   cells_.assign(MaxColumns() * rows_, CellState{});
   hidden_rows_.assign(rows_, false);
-  active_ = {1, 1};
+  active_ = NextOpenCell({0, 0}).value_or(Cell{1, 1});
   for (const CellText& text : design_->texts) SetText(text.column, text.row, text.text);
   ++revision_;
 }
