@@ -23,9 +23,31 @@ RunTimeError Refusal(int code, const std::string& path, const std::string& reaso
   return {static_cast<double>(code), '"' + path + "\" " + reason};
 }
 
+// What has happened, in words for the user, where the engine's own do not say it.
+std::string_view Explained(int extended_code) {
+  switch (extended_code) {
+    case SQLITE_CORRUPT:
+      return "the database file is damaged";
+    case SQLITE_READONLY_DBMOVED:
+      return "the database file was moved, replaced or removed while it was open";
+    case SQLITE_CANTOPEN:
+      return "nothing can be written into the folder of the database";
+    default:
+      return {};
+  }
+}
+
 RunTimeError EngineError(sqlite3* database) {
   constexpr int kPrimaryCode = 0xff;
-  return {static_cast<double>(sqlite3_errcode(database) & kPrimaryCode), sqlite3_errmsg(database)};
+  int code = sqlite3_extended_errcode(database);
+  const std::string message = sqlite3_errmsg(database);
+  // A page that cannot be deciphered is a failure without a text of its own.
+  if (code == SQLITE_NOTADB || (code == SQLITE_ERROR && message == sqlite3_errstr(code))) {
+    code = SQLITE_CORRUPT;
+  }
+  const std::string_view explained = Explained(code);
+  return {static_cast<double>(code & kPrimaryCode),
+          explained.empty() ? message : std::string(explained) + " (" + message + ")"};
 }
 
 void Run(sqlite3* database, const char* sql) {
@@ -98,8 +120,9 @@ void ReadFirst(sqlite3* database, const std::string& path) {
   }
   std::error_code error;
   const bool whole = std::filesystem::file_size(ToPath(path), error) % kPageBytes == 0;
-  if (code == SQLITE_CORRUPT || (code == SQLITE_OK && !whole)) {
-    throw Refusal(SQLITE_CORRUPT, path, "is damaged: a part of it is missing");
+  // Nothing is wrong with the statement: the table of contents is what cannot be read.
+  if (code == SQLITE_CORRUPT || code == SQLITE_ERROR || (code == SQLITE_OK && !whole)) {
+    throw Refusal(SQLITE_CORRUPT, path, "is damaged: a part of it is missing or was changed");
   }
   if (code != SQLITE_OK) {
     throw Refusal(code, path, std::string("cannot be read: ") + sqlite3_errmsg(database));
@@ -196,6 +219,10 @@ Connection::Statement Connection::Prepare(std::string_view statement) {
   }
   if (!sqlite3_stmt_readonly(raw) && !InGroup()) Run(database_.get(), "BEGIN IMMEDIATE");
   return prepared;
+}
+
+void Connection::RequireSoundPages() {
+  Run(database_.get(), "SELECT 1 FROM sqlite_master LIMIT 1");
 }
 
 bool Connection::Step(sqlite3_stmt* statement) {

@@ -68,6 +68,9 @@ class Connection {
 
   Statement Prepare(std::string_view statement);
   bool Step(sqlite3_stmt* statement);  // true while there is a row
+  // Throws when a page that the row in front goes on into could not be deciphered: the engine gives
+  // zeros for such a page and remembers the failure until the next page is asked for.
+  void RequireSoundPages();
   bool InGroup() const;  // asks the engine, which may have taken the group back by itself
 
   std::unique_ptr<sqlite3, CloseDatabase> database_;

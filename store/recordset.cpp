@@ -11,6 +11,8 @@
 namespace survey {
 namespace {
 
+constexpr int kOnePage = 500;  // bytes of a row that surely lie on one page of the file
+
 Value ColumnValue(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
     case SQLITE_NULL:
@@ -36,8 +38,13 @@ void Recordset::Open(std::string_view statement, Connection* connection) {
   while (connection->Step(query.get())) {
     std::vector<Value>& row = rows.emplace_back();
     row.reserve(static_cast<std::size_t>(columns));
-    for (int column = 0; column < columns; ++column)
+    int bytes = 0;
+    for (int column = 0; column < columns; ++column) {
       row.push_back(ColumnValue(query.get(), column));
+      const bool is_text = sqlite3_column_type(query.get(), column) == SQLITE_TEXT;
+      if (is_text) bytes += sqlite3_column_bytes(query.get(), column);
+    }
+    if (bytes > kOnePage) connection->RequireSoundPages();
   }
   for (int column = 0; column < columns; ++column) {
     names_.emplace_back(sqlite3_column_name(query.get(), column));
