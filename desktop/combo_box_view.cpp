@@ -27,6 +27,11 @@ bool IsCharacter(const QKeyEvent& event) {
   return !command && !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
+bool ChangesLine(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
+         event.matches(QKeySequence::Cut) || event.matches(QKeySequence::Paste);
+}
+
 }  // namespace
 
 class ComboBoxWidget : public QComboBox {
@@ -38,13 +43,13 @@ class ComboBoxWidget : public QComboBox {
     setMaxVisibleItems(kVisibleEntries);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(kWidthInCharacters);
+    view()->installEventFilter(this);
     if (!TakesCharacters()) return;
     setEditable(true);
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
     // Its text changes through the control alone.
     lineEdit()->setReadOnly(true);
-    view()->installEventFilter(this);
   }
 
   // Half of it where the form is too narrow; the list is as wide as its entries.
@@ -91,7 +96,7 @@ class ComboBoxWidget : public QComboBox {
 
   void keyPressEvent(QKeyEvent* event) override {
     if (TakesCharacters() && TakeKey(*event)) return;
-    if (!IsCharacter(*event) || event->key() == Qt::Key_Space) {
+    if (!IsCharacter(*event) || event->key() == Qt::Key_Space) {  // which opens the list
       QComboBox::keyPressEvent(event);
     } else {
       event->ignore();
@@ -99,8 +104,10 @@ class ComboBoxWidget : public QComboBox {
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool in_list = watched == view() && event->type() == QEvent::KeyPress;
-    if (in_list && TakeKey(static_cast<QKeyEvent&>(*event))) return true;
+    if (watched == view() && event->type() == QEvent::KeyPress) {
+      auto& key = static_cast<QKeyEvent&>(*event);
+      if (TakesCharacters() ? TakeKey(key) : IsCharacter(key)) return true;
+    }
     return QComboBox::eventFilter(watched, event);
   }
 
@@ -133,8 +140,8 @@ class ComboBoxWidget : public QComboBox {
   }
 
   bool TakeKey(QKeyEvent& event) {
-    if (event.key() == Qt::Key_Backspace) {
-      UnmarkTyped();
+    if (ChangesLine(event)) {
+      if (!lineEdit()->text().isEmpty()) box_.Edit();
       return true;
     }
     if (!IsCharacter(event)) return false;
@@ -151,14 +158,6 @@ class ComboBoxWidget : public QComboBox {
     const QLineEdit& line = *lineEdit();
     box_.SelectionStart = line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();
     box_.SelectionLength = line.selectionLength();
-  }
-
-  // Takes the last typed character back into the part that the next one replaces.
-  void UnmarkTyped() {
-    HandOverSelection();
-    box_.SelectionStart = std::max(0, box_.SelectionStart - 1);
-    box_.SelectionLength = static_cast<int>(lineEdit()->text().size()) - box_.SelectionStart;
-    TakeOverText();
   }
 
   // Entries are as long as they need; measuring the longest alone keeps thousands quick.

@@ -68,7 +68,7 @@ class LabelView : public ControlView {
 
  private:
   void TakeOverState() override {
-    const QString text = QString::fromStdString(label_.Caption).trimmed();
+    const QString text = QString::fromStdString(label_.Caption);
     if (widget_.text() == text) return;
     widget_.setWordWrap(text.size() > kShortLabel);
     widget_.setMinimumWidth(text.size() > kLongLabel ? kLongLabelWidth : 0);
@@ -106,7 +106,7 @@ class FrameView : public ControlView {
  private:
   void TakeOverState() override {
     // The name of a college may hold an ampersand, which stands for no key here.
-    widget_.setTitle(QString::fromStdString(frame_.Caption).trimmed().replace("&", "&&"));
+    widget_.setTitle(QString::fromStdString(frame_.Caption).replace("&", "&&"));
   }
 
   Frame& frame_;
@@ -162,7 +162,7 @@ class ButtonView : public ControlView {
 
  private:
   void TakeOverState() override {
-    const QString caption = QString::fromStdString(button_.Caption).trimmed();
+    const QString caption = QString::fromStdString(button_.Caption);
     if (widget_.text() != caption) {
       widget_.setText(caption);
       if (const QKeySequence key = KeyOfButton(caption); !key.isEmpty()) widget_.setShortcut(key);
@@ -192,7 +192,7 @@ class CheckBoxView : public ControlView {
       : ControlView(box, new QCheckBox(parent)),
         box_(box),
         widget_(static_cast<QCheckBox&>(*widget())) {
-    widget_.setText(QString::fromStdString(box.Caption).trimmed());
+    widget_.setText(QString::fromStdString(box.Caption));
     QObject::connect(&widget_, &QCheckBox::clicked, &widget_, [this] {
       box_.Click();
       TakeOver();
@@ -216,7 +216,7 @@ class OptionButtonView : public ControlView {
         option_(option),
         widget_(static_cast<QRadioButton&>(*widget())),
         group_(*context.option_group(option.group())) {
-    widget_.setText(QString::fromStdString(option.Caption).trimmed());
+    widget_.setText(QString::fromStdString(option.Caption));
     group_.addButton(&widget_);
     QObject::connect(&widget_, &QRadioButton::clicked, &widget_, [this] {
       option_.Click();

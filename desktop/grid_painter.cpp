@@ -18,7 +18,6 @@ constexpr QColor kSelection(40, 120, 215, 90);
 constexpr QColor kCursor(0, 60, 140);
 constexpr QColor kIdleCursor(90, 110, 140);
 constexpr QColor kBox(64, 64, 64);
-constexpr int kTotalShade = 112;  // percent darker than other locked cells
 
 constexpr int kLineWidth = 10;  // twips
 constexpr int kSidePadding = 60;
@@ -29,8 +28,10 @@ constexpr int kCursorWidth = 28;
 constexpr double kSmallestText = 0.65;  // of the usual size
 constexpr int kDark = 100;              // grey, up to which black on it is hard to read
 
-// On a printer without colours too: there the red of a wrong total is a dark grey.
-QColor InkOn(const QColor& ground) { return qGray(ground.rgb()) < kDark ? kTextOnDark : kText; }
+// A printer without colours makes the red of a wrong total a dark grey.
+QColor InkOnPaper(const QColor& ground) {
+  return qGray(ground.rgb()) < kDark ? kTextOnDark : kText;
+}
 
 QColor ToQColor(Color color) {
   return QColor(static_cast<int>(color & 0xFFU), static_cast<int>((color >> 8U) & 0xFFU),
@@ -111,16 +112,12 @@ void GridPainter::PaintBlock(QPainter& painter, const CellRange& block, QPoint s
 
 QColor GridPainter::ColorOf(Cell cell) const {
   if (cell.row == 0) return ToQColor(kLockedGrey);
-  const Color color = grid_.BackColor(cell.column, cell.row);
-  const bool plain_total =
-      grid_.IsTotal(cell.column, cell.row) && color == grid_.design().locked_color;
-  return plain_total ? ToQColor(color).darker(kTotalShade) : ToQColor(color);
+  return ToQColor(grid_.BackColor(cell.column, cell.row));
 }
 
 GridPainter::Setting GridPainter::SettingOf(Cell cell, const CellLook& look) const {
   Setting setting;
   setting.text = cell.row == 0 ? HeadText(grid_, cell.column) : ShownText(grid_, cell);
-  setting.ink = InkOn(ColorOf(cell));
   const bool head = cell.row <= sheet_.head_rows();
   setting.bold =
       head || grid_.IsBold(cell.column, cell.row) || grid_.IsTotal(cell.column, cell.row);
@@ -128,7 +125,11 @@ GridPainter::Setting GridPainter::SettingOf(Cell cell, const CellLook& look) con
                           ? Qt::AlignHCenter
                           : ToQt(grid_.AlignmentOf(cell.column, cell.row));
   setting.wraps = grid_.Kind(cell.column, cell.row).type != CellKind::Type::kNumber;
-  if (look.sign) setting.sign = QString::fromStdString(grid_.NoteOf(cell.column, cell.row).sign);
+  if (look.on_screen) {
+    setting.sign = QString::fromStdString(grid_.NoteOf(cell.column, cell.row).sign);
+  } else {
+    setting.ink = InkOnPaper(ColorOf(cell));
+  }
   return setting;
 }
 

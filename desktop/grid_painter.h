@@ -17,11 +17,12 @@ struct CellLook {
   bool selected = false;
   bool cursor = false;   // the cursor is here
   bool focused = false;  // and the table has the keyboard
-  bool sign = false;     // what the colour says is told by a sign too; paper shows the colour alone
+  // On screen, where a sign too tells what a colour says; paper shows the colour alone.
+  bool on_screen = false;
 };
 
 // Draws cells of a table, on screen and on paper alike: what a user prints is what they saw.
-// The texts are black on the survey's own colours, whatever colours the desktop has.
+// The survey's own colours hold, whatever colours the desktop has.
 class GridPainter {
  public:
   using LookOf = std::function<CellLook(Cell)>;

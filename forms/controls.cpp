@@ -238,6 +238,10 @@ void ComboBox::KeyPress(char32_t character) {
   if (TakesInput() && on_key_press) Dispatch("KeyPress", [&] { on_key_press(character); });
 }
 
+void ComboBox::Edit() {
+  if (TakesInput() && on_edit) Dispatch("Change", [this] { on_edit(); });
+}
+
 void ComboBox::GotFocus() {
   if (TakesInput() && on_got_focus) Dispatch("GotFocus", [this] { on_got_focus(); });
 }

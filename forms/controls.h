@@ -177,6 +177,8 @@ class ComboBox : public Control {
   // Sees each typed character and always keeps it from the box; where it is not set, the box
   // can only be chosen from.
   std::function<void(char32_t)> on_key_press;
+  // Backspace, Delete, cut or paste in the line, which the control alone changes.
+  std::function<void()> on_edit;
   bool DroppedDown = false;  // wished by code, taken over by the view, which sets it back
   std::uint64_t revision() const { return revision_; }
 
@@ -184,6 +186,7 @@ class ComboBox : public Control {
   void DropDown();
   void Choose(int index);
   void KeyPress(char32_t character);
+  void Edit();
   void GotFocus();
 
  private:

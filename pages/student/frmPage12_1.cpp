@@ -133,6 +133,8 @@ FrmPage12_1::FrmPage12_1(Forms& forms)
   cboSelect.on_key_press = [this](char32_t character) {
     Trap(kTypeAheadName, [&] { TypeAhead(character); });
   };
+  // A changed line has the list read anew, which empties it.
+  cboSelect.on_edit = [this] { Trap(kTypeAheadName, [this] { Fillsubjectcombo2(cboSelect); }); };
   cmdOK.on_click = [this] { Trap(kTakeChoiceName, [this] { TakeChoice(); }); };
   cmdAdd.on_click = [this] { this->forms().ShowModal("frmAddQualification"); };
   cmdRemove.on_click = [this] { Trap(kRemoveLineName, [this] { RemoveLine(); }); };
@@ -253,8 +255,7 @@ void FrmPage12_1::TypeAhead(char32_t character) {
   constexpr char32_t kLast = 127;
   if (character < kFirst) return;
   if (character > kLast) {
-    // It would go into the line, and a changed line has the list read anew, which empties it.
-    Fillsubjectcombo2(cboSelect);
+    Fillsubjectcombo2(cboSelect);  // it goes into the line
     return;
   }
   const std::string& line = cboSelect.Text();

@@ -70,6 +70,9 @@ TEST_F(Page12_1, OffersThoseOfAFieldByIdAndTypingSelectsTheFirstThatBeginsSo) {
   }
   Select().KeyPress(U'\u00e9');  // changes the line, so the list is read anew
   EXPECT_EQ(Select().Text(), "");
+  Pick(125);
+  Select().Edit();
+  EXPECT_EQ(Select().Text(), "");
 }
 
 TEST_F(Page12_1, OkEntersTheChoiceOnceAndAsksForOne) {
