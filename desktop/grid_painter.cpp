@@ -14,7 +14,7 @@ namespace {
 constexpr QColor kText(0, 0, 0);
 constexpr QColor kTextOnDark(255, 255, 255);
 constexpr QColor kLine(96, 96, 96);
-constexpr QColor kSelection(40, 120, 215, 90);
+constexpr QColor kSelection(120, 180, 255, 110);  // over red too, black is to be read
 constexpr QColor kCursor(0, 60, 140);
 constexpr QColor kIdleCursor(90, 110, 140);
 constexpr QColor kBox(64, 64, 64);

@@ -1,15 +1,10 @@
-#include <QAccessible>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QRadioButton>
 #include <QWheelEvent>
-#include <set>
 
 #include "desktop_fixture.h"
-#include "forms/page_chain.h"
 
 namespace survey::testing {
 namespace {
@@ -153,54 +148,6 @@ TEST_F(ControlViewTest, ListsAndButtonsWorkByKeyAndDisabledOnesDoNot) {
   desktop_->view().Refresh();
   EXPECT_THROW(user_->Click("cmdCount"), Mismatch);
   EXPECT_EQ(user_->The<QListView>("lstNames").model()->rowCount(), 0);
-}
-
-// ---- All forms -----------------------------------------------------------------------------
-
-std::string SpokenName(QWidget& widget) {
-  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget);
-  return spoken == nullptr ? "" : spoken->text(QAccessible::Name).toStdString();
-}
-
-void ExpectNamedAndWhole(const Control& control, QWidget& widget) {
-  const auto* frame = qobject_cast<QGroupBox*>(&widget);
-  const bool is_border_alone = frame != nullptr && frame->title().isEmpty();
-  EXPECT_TRUE(is_border_alone || !SpokenName(widget).empty()) << control.ObjectName();
-  if (!widget.isVisible()) return;
-  if (const auto* label = qobject_cast<QLabel*>(&widget)) {
-    EXPECT_GE(label->height(), label->heightForWidth(label->width())) << control.ObjectName();
-    EXPECT_TRUE(label->wordWrap() || label->width() >= label->sizeHint().width())
-        << control.ObjectName();
-  } else if (const auto* button = qobject_cast<QPushButton*>(&widget)) {
-    EXPECT_GE(button->width(), button->sizeHint().width()) << control.ObjectName();
-    EXPECT_TRUE(control.name() != "cmdSave" || !button->visibleRegion().isEmpty())
-        << "Save is in view however long the page is";
-  }
-}
-
-TEST_F(DesktopTest, EveryControlHasANameAndIsShownWhole) {
-  OpenSiteAt("frmMainMenu");
-  desktop_->view().window().resize(1366, 700);
-  std::set<std::string> names = {"frmSelectDatabase",  "frmDatabase", "frmSelectCollege",
-                                 "frmMainMenu",        "frmAbout",    "frmAddSubjects",
-                                 "frmAddQualification"};
-  for (const Link& link : PageChain()) names.emplace(link.page);
-  for (const std::string& name : names) {
-    SCOPED_TRACE(name);
-    Form& form = desktop_->forms().Get(name);
-    form.EducatorId = "8001015009087";
-    form.FormMode = "New";
-    desktop_->forms().Start(name);
-    QCoreApplication::processEvents();
-    ASSERT_EQ(Front(), name);
-    for (const Control* control : form.controls()) {
-      const auto* label = dynamic_cast<const Label*>(control);
-      const bool is_blank = label != nullptr && label->Caption.empty();
-      auto* widget =
-          user_->Front().findChild<QWidget*>(QString::fromStdString(control->ObjectName()));
-      if (widget != nullptr && !is_blank) ExpectNamedAndWhole(*control, *widget);
-    }
-  }
 }
 
 }  // namespace
