@@ -92,6 +92,7 @@ void GridView::SetUp() {
   setSelectionMode(list_ ? SingleSelection : ContiguousSelection);
   setSelectionBehavior(list_ ? SelectRows : SelectItems);
   setAccessibleName(TableName(grid_));
+  if (list_) setAccessibleDescription(QStringLiteral("Ctrl+Enter: click on the column's head"));
 }
 
 // ---- Looks ---------------------------------------------------------------------------------

@@ -168,6 +168,10 @@ bool GridView::GridKey(QKeyEvent& event) {
     Step(event.modifiers().testFlag(Qt::ShiftModifier));
     return true;
   }
+  if (IsEnter(event) && event.modifiers().testFlag(Qt::ControlModifier)) {
+    grid_.Click(Active().column, 0);  // the head over the cursor, by which a list is sorted
+    return true;
+  }
   if (IsEnter(event) || event.key() == Qt::Key_Space) {
     if (!list_ && !IsBox(Active())) return false;
     Operate();

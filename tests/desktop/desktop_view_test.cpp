@@ -2,6 +2,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 #include "desktop_fixture.h"
@@ -117,14 +119,23 @@ TEST_F(DesktopTest, AnUnsavedPageAsksBeforeItIsLeft) {
   EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "");
 }
 
-TEST_F(DesktopTest, SavingTakesWhatIsStillBeingTyped) {
+TEST_F(DesktopTest, SavingAndLeavingTakeWhatIsStillBeingTyped) {
   OpenSiteAt("frmPage3");
   user_->Type("31");
-  user_->Click("cmdSave");
+  user_->Press(Qt::Key_S, Qt::ControlModifier);
   EXPECT_NE(ColorOf("cmdSave"), QColor(Qt::yellow));
-  user_->Click("cmdMenu");
-  user_->Click("cmdLearner(7)");
+  EXPECT_EQ(&user_->Focus(), &user_->Find("gridEnrolment")) << "typing goes on where it was";
+  user_->Press(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(Front(), "frmPage5");
+  user_->Type("7");
+  ExpectBox("Data has NOT been Saved", kUnsaved, true, "Yes");
+  user_->Press(Qt::Key_PageUp, Qt::ControlModifier);
   EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "31");
+  user_->Type("32");
+  user_->Click("cmdSave");
+  user_->Press(Qt::Key_M, Qt::ControlModifier);
+  user_->Click("cmdLearner(7)");
+  EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "32");
   user_->Type("99");
   user_->Press(Qt::Key_Return);
   desktop_->view().window().close();  // asks nothing
@@ -133,14 +144,18 @@ TEST_F(DesktopTest, SavingTakesWhatIsStillBeingTyped) {
 
 TEST_F(DesktopTest, AboutShowsTheWholeDisclaimerAndClosesByEsc) {
   OpenSiteAt("frmMainMenu");
+  const QFont usual = QApplication::font();
+  QApplication::setFont(QFont(usual.family(), 13));
   user_->OnDialog([this](QWidget& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "About Corvale Annual Survey");
     const auto& text = user_->The<QLabel>("lblDisclaimer");
     EXPECT_TRUE(text.text().startsWith("This product is supplied free of charge"));
     EXPECT_GE(text.height(), text.heightForWidth(text.width()));
+    EXPECT_EQ(dialog.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
     user_->Press(Qt::Key_Escape);
   });
   user_->Click("cmdDisclaimer");
+  QApplication::setFont(usual);
   EXPECT_EQ(Front(), "frmMainMenu");
   EXPECT_FALSE(ended_);
 }

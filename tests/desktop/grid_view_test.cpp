@@ -222,6 +222,7 @@ TEST_F(GridViewTest, RefusedKeysChangeNothingAndSayWhy) {
   Keys("9-");
   EXPECT_EQ(Editor()->text(), "999");
   EXPECT_THAT(Note(), HasSubstr("from 0 to 999"));
+  EXPECT_EQ(Editor()->accessibleDescription().toStdString(), Note()) << "where the user is";
   Key(Qt::Key_Escape);
   Go(4, 4);
   Keys("1");
@@ -286,6 +287,9 @@ TEST_F(GridViewTest, PastesWhatFitsAndSaysWhatDoesNot) {
   EXPECT_THAT(Note(), HasSubstr("one line"));
   Paste("\"\"\"a\"\"\"");
   EXPECT_EQ(At(6, 3) + Note(), "\"A\"");
+  Paste("\"a\"05\t7\n");  // begins with a quote, and is not in quotes
+  EXPECT_EQ(At(6, 3), "\"A\"05") << "and the 0 stays";
+  EXPECT_THAT(Note(), HasSubstr("\"7\""));
 }
 
 TEST_F(GridViewTest, CopiesCutsAndFillsASelection) {
@@ -364,7 +368,10 @@ TEST_F(GridViewTest, ListChoosesRows) {
   QHeaderView& heads = *list_->horizontalHeader();
   QTest::mouseClick(heads.viewport(), Qt::LeftButton, {},
                     {heads.sectionViewportPosition(1) + 5, 5});
-  EXPECT_THAT(form().heard, ElementsAre("click 1,1", "click 1,2", "click 2,4", "click 2,0"));
+  Key(Qt::Key_Left);
+  Key(Qt::Key_Return, Qt::ControlModifier);  // the head, without a mouse
+  EXPECT_THAT(form().heard, ElementsAre("click 1,1", "click 1,2", "click 2,4", "click 2,0",
+                                        "click 1,4", "click 1,0"));
   form().list.SetActiveCell(1, 9);
   list_->TakeOver();
   EXPECT_FALSE(list_->selectionModel()->hasSelection()) << "code chose no row";
