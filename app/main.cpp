@@ -1,6 +1,9 @@
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
 #include <QMessageBox>
 #include <exception>
+#include <stdexcept>
 
 #include "desktop/desktop.h"
 #include "forms/message_boxes.h"
@@ -9,8 +12,25 @@
 
 namespace {
 
+// Where the program is installed for all, no user can write beside the executable: the starter
+// names a folder of the user's own in its place.
+survey::DesktopPlaces PlacesFrom(const QStringList& arguments) {
+  const QCommandLineOption folder("program-folder", "Use the template and the databases in FOLDER.",
+                                  "FOLDER");
+  QCommandLineParser parser;
+  parser.addHelpOption();
+  parser.addOption(folder);
+  parser.process(arguments);
+  if (!parser.isSet(folder)) return {};
+  const QDir program_folder(parser.value(folder));
+  if (!program_folder.exists()) {
+    throw std::runtime_error("There is no folder " + parser.value(folder).toStdString());
+  }
+  return {.program_folder = program_folder.absolutePath().toStdU16String()};
+}
+
 int Run() {
-  survey::Desktop desktop;
+  survey::Desktop desktop(PlacesFrom(QCoreApplication::arguments()));
   survey::RegisterShell(desktop.forms());
   survey::RegisterPages(desktop.forms());
   // Queued, for the program may end before it has begun to wait for the user.
@@ -25,6 +45,8 @@ int Run() {
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   survey::SetUpApplication();
+  // The menu entry's name, by which a desktop finds the icon of our windows.
+  QGuiApplication::setDesktopFileName("corvale-survey");
   try {
     return Run();
   } catch (const std::exception& failure) {

@@ -3,7 +3,9 @@
 
 build_packages="g++ cmake ninja-build pkg-config libsqlcipher-dev libssl-dev libicu-dev libcsv-dev \
 qt6-base-dev fonts-dejavu-core fonts-liberation"
-test_packages="libgtest-dev libgmock-dev clang-format poppler-utils"
+package_packages="dpkg-dev"
+test_packages="libgtest-dev libgmock-dev clang-format poppler-utils $package_packages xvfb xdotool \
+fakeroot desktop-file-utils"
 
 install_missing() {
   local missing=() package
