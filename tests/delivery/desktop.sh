@@ -16,8 +16,8 @@ clean_up() {
 }
 trap clean_up EXIT
 
-# It picks a number that no other screen has.
-Xvfb -displayfd 3 -nolisten tcp -screen 0 1366x768x24 3> "$scratch/screen" 2> /dev/null &
+# It picks a number that no other screen has, and does not start anew when nobody is looking.
+Xvfb -displayfd 3 -noreset -nolisten tcp -screen 0 1366x768x24 3> "$scratch/screen" 2> /dev/null &
 screen=$!
 until [ -s "$scratch/screen" ]; do kill -0 $screen; sleep 0.1; done
 DISPLAY=:$(cat "$scratch/screen")
