@@ -136,6 +136,15 @@ void MakeDurable(sqlite3* database) {
   Run(database, "PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA");
 }
 
+// Who was killed before a page reached the file leaves a journal with nothing to take back, which
+// the engine would keep until the next write. Leaving the mode that keeps journals makes it remove
+// this one, under the lock that shows that no other program is writing it.
+void RemoveLeftJournal(sqlite3* database, const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::exists(ToPath(path + "-journal"), error)) return;
+  Run(database, "PRAGMA journal_mode = PERSIST; PRAGMA journal_mode = DELETE");
+}
+
 bool IsBlank(std::string_view text) {
   return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
@@ -161,6 +170,7 @@ std::unique_ptr<Connection> Connection::Open(const std::string& path, std::strin
   }
   Unlock(database.get(), keys.RawKey(password, salt));
   ReadFirst(database.get(), path);
+  RemoveLeftJournal(database.get(), path);
   MakeDurable(database.get());
   return std::unique_ptr<Connection>(new Connection(std::move(database)));
 }

@@ -126,6 +126,11 @@ TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
   EXPECT_EQ(AnswerOfFile("select count(*) from tbl_StaffTraining"), "0");
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
   EXPECT_LT(std::filesystem::file_size(path_), size_before * 2);
+
+  Kill(StartOtherProgram([](Connection& theirs) { Enrol(theirs, 2); }));  // nothing to take back
+  ASSERT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
+  EXPECT_EQ(AnswerOfFile(kCount), "1");
+  EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
 }
 
 }  // namespace
