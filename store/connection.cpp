@@ -223,12 +223,34 @@ Connection::Statement Connection::Prepare(std::string_view statement) {
   const int code = sqlite3_prepare_v2(database_.get(), sql.c_str(),
                                       static_cast<int>(sql.size() + 1), &raw, &rest);
   Statement prepared(raw);
-  if (code != SQLITE_OK) throw EngineError(database_.get());
+  if (code != SQLITE_OK) Fail();
   if (!prepared || !IsBlank({rest, static_cast<std::size_t>(sql.data() + sql.size() - rest)})) {
     throw RunTimeError(SQLITE_ERROR, "one statement runs at a time, and nothing may follow it");
   }
-  if (!sqlite3_stmt_readonly(raw) && !InGroup()) Run(database_.get(), "BEGIN IMMEDIATE");
+  if (!sqlite3_stmt_readonly(raw) && !InGroup()) {
+    RequireContents();
+    Run(database_.get(), "BEGIN IMMEDIATE");
+  }
   return prepared;
+}
+
+void Connection::Fail() {
+  const RunTimeError failure = EngineError(database_.get());
+  if (failure.number() == SQLITE_ERROR) RequireContents();
+  throw RunTimeError(failure);
+}
+
+void Connection::RequireContents() {
+  const auto see_pages = [](void* pages, int, char** fields, char**) {
+    *static_cast<std::string*>(pages) = fields[0];
+    return 0;
+  };
+  std::string pages;
+  sqlite3_exec(database_.get(), "PRAGMA page_count", see_pages, &pages, nullptr);
+  if (pages == "0") {
+    throw RunTimeError(SQLITE_CORRUPT,
+                       std::string(Explained(SQLITE_CORRUPT)) + " (it has become empty)");
+  }
 }
 
 void Connection::RequireSoundPages() {
@@ -237,7 +259,7 @@ void Connection::RequireSoundPages() {
 
 bool Connection::Step(sqlite3_stmt* statement) {
   const int code = sqlite3_step(statement);
-  if (code != SQLITE_ROW && code != SQLITE_DONE) throw EngineError(database_.get());
+  if (code != SQLITE_ROW && code != SQLITE_DONE) Fail();
   return code == SQLITE_ROW;
 }
 

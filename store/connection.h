@@ -68,6 +68,10 @@ class Connection {
 
   Statement Prepare(std::string_view statement);
   bool Step(sqlite3_stmt* statement);  // true while there is a row
+  [[noreturn]] void Fail();            // with what the engine reports
+  // Throws when the file has become empty under the connection: the engine would take it for a new
+  // database and write the beginning of one.
+  void RequireContents();
   // Throws when a page that the row in front goes on into could not be deciphered: the engine gives
   // zeros for such a page and remembers the failure until the next page is asked for.
   void RequireSoundPages();

@@ -116,7 +116,7 @@ std::string RowsOf(Connection& connection, const SavedPart& part) {
 }
 
 std::map<std::string, std::string> AllRows(const std::string& path) {
-  CipherKeys keys;
+  static CipherKeys keys;
   const auto connection = Connection::Open(path, DatabasePassword(), keys);
   Recordset tables;
   tables.Open("select name from sqlite_master where type = 'table'", connection.get());

@@ -163,7 +163,7 @@ void World::OpenSite(double college, double campus) {
 }
 
 std::vector<std::string> World::Query(const std::string& statement) {
-  CipherKeys keys;
+  static CipherKeys keys;
   const auto connection = Connection::Open(survey.DatabasePath, DatabasePassword(), keys);
   Recordset records;
   records.Open(statement, connection.get());
