@@ -31,7 +31,7 @@ std::string AnswerFor(const CellKind& kind, int position, int version) {
     case CellKind::Type::kNumber:
       return NumberFor(kind, position, version);
     case CellKind::Type::kText: {
-      const std::string text = "V" + std::to_string(version) + " of " + std::to_string(position);
+      const std::string text = "V" + std::to_string(version) + "-" + std::to_string(position);
       return text.substr(0, static_cast<std::size_t>(kind.length));
     }
     case CellKind::Type::kDigits:
@@ -153,11 +153,11 @@ FilledSite::FilledSite() {
   survey.EndStatements();
 }
 
-Form& FilledSite::Open(const std::string& page) {
+Form& FilledSite::Open(const std::string& page, const std::string& staff_member) {
   Form& form = forms.Get(page);
   forms.Unload(form);
   survey.OpenDatabaseConnection();  // some pages work on what the one before them has left open
-  form.EducatorId = kStaffMember;
+  form.EducatorId = staff_member;
   form.EmisNumber = survey.CollegeEmisNumber;
   form.FormMode = "Edit";
   forms.Start(page);

@@ -37,8 +37,8 @@ class FilledSite : public World {
 
   FilledSite();
 
-  // Shows a page, anew where it was open.
-  Form& Open(const std::string& page);
+  // Shows a page, of the staff member where it is one of the staff's, anew where it was open.
+  Form& Open(const std::string& page, const std::string& staff_member = kStaffMember);
   // Types into every open cell of the page in front. Each version is told from its neighbours by
   // every answer that may differ.
   void Fill(Form& page, int version);
