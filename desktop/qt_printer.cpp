@@ -164,7 +164,10 @@ void QtPrinter::Print(std::string_view text) {
 
 void QtPrinter::OwnerPrintDraw(const Grid& grid, double left, double top, double right,
                                double bottom, int page) {
-  GridPages(grid, AreaOf(left, top, right, bottom)).Paint(Page(), page);
+  // A sheet is begun only for what there is: the staff list is counted in a smaller rectangle than
+  // it is drawn in, and may be given a page more than it fills.
+  const GridPages pages(grid, AreaOf(left, top, right, bottom));
+  if (page <= pages.count()) pages.Paint(Page(), page);
 }
 
 int QtPrinter::OwnerPrintPageCount(const Grid& grid, double left, double top, double right,
