@@ -10,10 +10,12 @@
 namespace survey::testing {
 namespace {
 
-std::string JoinedColumns(Connection& connection, const std::string& table) {
+const std::string& JoinedColumns(Connection& connection, const std::string& table) {
+  static std::map<std::string, std::string> known;  // a table has the same columns in every file
+  std::string& joined = known[table];
+  if (!joined.empty()) return joined;
   Recordset columns;
   columns.Open("PRAGMA table_info(" + table + ")", &connection);
-  std::string joined;
   for (; !columns.Eof(); columns.MoveNext()) {
     joined += (joined.empty() ? "quote(" : "||','||quote(") + columns.Field("name").Text() + ")";
   }
