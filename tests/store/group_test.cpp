@@ -8,7 +8,6 @@ namespace survey {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 constexpr const char* kCount = "select count(*) from tbl_StudentEnrolment";
 
@@ -98,14 +97,6 @@ TEST_F(GroupTest, AnotherProgramsLockIsWaitedForAndThenReported) {
   Enrol(*mine, 3);
   mine->EndGroup();
   EXPECT_EQ(Answer("select Quantity from tbl_StudentEnrolment", *other), "3");
-}
-
-TEST_F(GroupTest, ALockedFileIsNotTakenForAForeignOne) {
-  const pid_t other =
-      StartOtherProgram([](Connection& theirs) { theirs.ExecuteScript("BEGIN EXCLUSIVE"); });
-  EXPECT_THAT(FailsWith(5, [&] { Open(); }), HasSubstr("database is locked"));
-  Kill(other);
-  EXPECT_EQ(AnswerOfFile(kCount), "0");
 }
 
 TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
