@@ -1,6 +1,7 @@
 #include "twin_entry.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
@@ -21,6 +22,8 @@ bool IsNumber(const std::string& text) {
 }
 
 std::string Plain(double number, int decimals) {
+  const double scale = std::pow(10, decimals);
+  number = std::round(number * scale) / scale;  // a half goes up, as in the totals
   char text[400];
   std::snprintf(text, sizeof text, "%.*f", decimals, number);
   std::string plain = text;

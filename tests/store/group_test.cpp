@@ -118,7 +118,10 @@ TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
   EXPECT_LT(std::filesystem::file_size(path_), size_before * 2);
 
-  Kill(StartOtherProgram([](Connection& theirs) { Enrol(theirs, 2); }));  // nothing to take back
+  // One that has nothing to take back is kept as long as the other program lives.
+  const pid_t writing = StartOtherProgram([](Connection& theirs) { Enrol(theirs, 2); });
+  EXPECT_EQ(AnswerOfFile(kCount), "1");
+  Kill(writing);
   ASSERT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
   EXPECT_EQ(AnswerOfFile(kCount), "1");
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
