@@ -90,7 +90,7 @@ Layout FrmMainMenu::Arrange() {
   for (std::size_t first = 0; first < cmdLearner.size(); first += kButtonsInRow) {
     std::vector<Layout> row;
     for (std::size_t i = first; i < first + kButtonsInRow; ++i) {
-      row.push_back(Place(*cmdLearner[i], 1));
+      row.push_back(i < cmdLearner.size() ? Place(*cmdLearner[i], 1) : Space());
     }
     learner_rows.push_back(RowOf(std::move(row)));
   }
