@@ -283,6 +283,24 @@ void CopyRecords(Connection& store, const Tables& tables, const std::string& con
 
 std::string StaffId(int member) { return "700101" + Padded(member, 4); }
 
+// Answers that a page does not show again: the country of citizenship has never been saved, and
+// whether there is a manager, or a programme on level 5, is told by what else was answered.
+constexpr std::pair<const char*, int> kNotShownAgain[] = {
+    {"gridgeneral", 8}, {"gridGeneralInfo", 24}, {"gridlevel5", 1}};
+constexpr char kSortedWhenRead[] = "gridPage12_2";
+
+void ReadCell(const GridControl& grid, const FilledCell& entered, std::vector<std::string>& texts) {
+  const auto& [name, index, column, row, text] = entered;
+  for (const auto& [unshown, at] : kNotShownAgain) {
+    if (name == unshown && row == at) return;
+  }
+  if (name != kSortedWhenRead && grid.GetText(column, row) != text) {
+    throw std::runtime_error(name + " " + std::to_string(column) + "," + std::to_string(row) +
+                             " shows " + grid.GetText(column, row) + ", not " + text);
+  }
+  if (grid.Kind(column, row).type != CellKind::Type::kCheckBox) texts.push_back(text);
+}
+
 }  // namespace
 
 Figures::Figures(int first, int last) : first_(first), size_(last - first + 1), step_(1237) {
@@ -331,6 +349,27 @@ std::vector<FilledPage> FillStaffMember(Forms& forms, const std::string& id, Fig
   }
   forms.Get("frmEducatorData").FormMode = "New";
   return FillPages(forms, kStaffPages, figures);
+}
+
+std::vector<std::string> ReadAgain(Forms& forms, const FilledPage& filled,
+                                   const std::vector<PrintedGrid>& grids, const std::string& id) {
+  std::vector<std::string> texts;
+  forms.Unseen(filled.page, [&](Form& page) {
+    page.EducatorId = id;
+    page.FormMode = "Edit";
+    page.Form_Activate();
+    for (const PrintedGrid& printed : grids) {
+      const auto& grid = page.Find<GridControl>(printed.name, printed.index);
+      for (const FilledCell& cell : filled.cells) {
+        if (cell.grid == printed.name && cell.index == printed.index) ReadCell(grid, cell, texts);
+      }
+      for (int cell = 0; cell < grid.MaxRows() * grid.MaxColumns(); ++cell) {
+        const Cell at{cell % grid.MaxColumns() + 1, cell / grid.MaxColumns() + 1};
+        if (grid.IsTotal(at.column, at.row)) texts.push_back(grid.GetText(at.column, at.row));
+      }
+    }
+  });
+  return texts;
 }
 
 void AddStaff(Forms& forms, int members, Figures& figures) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/forms.h"
+#include "printing/page_print.h"
 
 namespace survey::testing {
 
@@ -69,6 +70,14 @@ std::vector<FilledPage> FillCampus(Forms& forms, Figures& figures);
 
 // The six pages of a new staff member.
 std::vector<FilledPage> FillStaffMember(Forms& forms, const std::string& id, Figures& figures);
+
+// Reads a filled page anew from the store, unseen; `id` is the staff member's whom it tells of.
+// Answers what these grids of it show: the texts that were entered, without ticks, and the totals.
+// Throws std::runtime_error where a cell does not show what was entered in it, but for
+// the answers that the survey has never shown again.
+std::vector<std::string> ReadAgain(Forms& forms, const FilledPage& filled,
+                                   const std::vector<PrintedGrid>& grids,
+                                   const std::string& id = {});
 
 // As many staff members, with IDs from "7001010001" on: the first entered on the pages, the others
 // copied from him or her in the store under IDs and surnames of their own. Nothing may be unsaved.

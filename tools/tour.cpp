@@ -1,6 +1,7 @@
 // Goes through the main job of the program in its real windows, from a new database to the figures
 // found again in the next run. Says each step, leaves a picture of every window and the database,
-// and ends with 1 where something is not as it should be.
+// and ends with 1 where something is not as it should be, or is cut off, hard to read or nameless
+// in one of the windows.
 
 #include <QApplication>
 #include <QLineEdit>
@@ -16,6 +17,7 @@
 #include "desktop/qt_printer.h"
 #include "desktop_driver.h"
 #include "filled_survey.h"
+#include "form_inspector.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
 
@@ -116,6 +118,7 @@ class Tour {
   fs::path output_;
   Desktop desktop_;
   DesktopDriver driver_;
+  FormInspector inspector_{driver_};
   bool ended_ = false;
 };
 
@@ -123,6 +126,9 @@ void Tour::Save(QWidget& window, const std::string& name) {
   QCoreApplication::processEvents();
   const fs::path file = output_ / (name + ".png");
   Expect(window.grab().save(QString::fromStdString(file.string())), "picture " + file.string());
+  inspector_.Look(window);
+  inspector_.Listen(window);
+  for (const std::string& fault : inspector_.TakeFaults()) Expect(false, fault);
 }
 
 void Tour::MakeDatabase() {
@@ -326,8 +332,11 @@ void Tour::PrintSurvey() {
   Say("Every page is filled in for the year that the menu prints, and the survey printed");
   desktop_.survey().SurveyYear = 2010;
   testing::Figures figures(11, 190);
-  testing::FillCampus(desktop_.forms(), figures);
+  const auto filled = testing::FillCampus(desktop_.forms(), figures);
   driver_.ExpectFront("frmMainMenu");
+  for (const testing::FilledPage& page : filled) {
+    testing::ReadAgain(desktop_.forms(), page, PrintOf(page.page).grids);
+  }
   PrintTo("22-survey", "cmdPrintSurvey", 16);
 }
 

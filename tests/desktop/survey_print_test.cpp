@@ -58,30 +58,11 @@ class FilledSurvey : public World, public ::testing::Test {
   // Takes off the sheet what was entered in these grids of the page, and the totals over it.
   void ExpectOn(Sheet& sheet, const FilledPage& filled, const std::vector<PrintedGrid>& grids,
                 const std::string& id = {}) {
-    const auto expect = [&](const std::string& text) {
-      for (const QString& word : QString::fromStdString(text).simplified().split(' ')) {
+    for (const std::string& text : ReadAgain(forms_, filled, grids, id)) {
+      for (const QString& word : QString::fromStdString(text).split(' ', Qt::SkipEmptyParts)) {
         EXPECT_GT(sheet[word]--, 0) << filled.page << ": " << word.toStdString();
       }
-    };
-    forms_.Unseen(filled.page, [&](Form& page) {
-      page.EducatorId = id;
-      page.FormMode = "Edit";
-      page.Form_Activate();
-      for (const PrintedGrid& printed : grids) {
-        const auto& grid = page.Find<GridControl>(printed.name, printed.index);
-        for (const auto& [name, index, column, row, text] : filled.cells) {
-          if (name != printed.name || index != printed.index) continue;
-          if (grid.Kind(column, row).type == CellKind::Type::kCheckBox) continue;
-          // The record has never taken the country of citizenship.
-          if (name != "gridgeneral" || row != 8) expect(text);
-        }
-        for (int cell = 0; cell < grid.MaxRows() * grid.MaxColumns(); ++cell) {
-          const Cell at{cell % grid.MaxColumns() + 1, cell / grid.MaxColumns() + 1};
-          const std::string& text = grid.GetText(at.column, at.row);
-          if (grid.IsTotal(at.column, at.row) && !text.empty()) expect(text);
-        }
-      }
-    });
+    }
   }
 
   Figures figures_;
