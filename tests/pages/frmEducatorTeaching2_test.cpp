@@ -67,17 +67,7 @@ TEST_F(EducatorTeaching2, FollowsThePersonToAnySite) {
               ElementsAre("101 2010 3", "101 2012 4", "101 2012 2", "101 2012 13"));
 }
 
-TEST_F(EducatorTeaching2, FailuresBearTheNamesUsersKnowAndNothingAsks) {
-  Open("O'9");
-  EXPECT_THAT(LastBox(), ToldBy("frmEducatorTeaching2", "GetPage Routine"));
-  Type(6, 3, "1");
-  Save();
-  EXPECT_FALSE(Unsaved());
-  EXPECT_THAT(LastBox(), ToldBy("frmStaffQualification", "SavePage Routine"));
-  printer.broken = true;
-  Click("cmdPrintPage");
-  EXPECT_THAT(LastBox(), ToldBy("frmEducatorTeaching2", "Print Routine"));
-  Open("8001");
+TEST_F(EducatorTeaching2, NothingAsksOnTheWayOn) {
   Type(6, 3, "2");
   Click("cmdNext");
   EXPECT_TRUE(dialogs.seen.empty());

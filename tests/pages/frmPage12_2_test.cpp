@@ -39,16 +39,9 @@ TEST_F(Page12_2, StoresColumnByColumnUnderTheTablesCodesAndChecksBeforeTheSave) 
   EXPECT_EQ(Shown({{4, 4}, {4, 15}, {9, 13}}), "0|5|8");
 }
 
-TEST_F(Page12_2, AKeyOnTheSaveButtonSetsTheMarkAndAFailedSaveClearsIt) {
+TEST_F(Page12_2, AKeyOnTheSaveButtonSetsTheMark) {
   The<Button>(kPage, "cmdSave").KeyDown();
   EXPECT_TRUE(Unsaved());
-  RunScript("drop table tbl_StudentPopulationGroupOcc");
-  Save();
-  EXPECT_THAT(LastBox(), ToldBy("frmPage12_1", "SavePage Routine"));
-  EXPECT_FALSE(Unsaved());
-  Reopen();  // a page that cannot be filled ends the program
-  EXPECT_EQ(dialogs.seen.size(), 1u);
-  EXPECT_TRUE(forms.Ended());
 }
 
 }  // namespace

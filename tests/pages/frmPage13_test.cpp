@@ -64,13 +64,5 @@ TEST_F(Boarders, TheEleventhCountryWritesOnTheTotals) {
   EXPECT_EQ(Query("select Country as r from tbl_StudentBoarders").size(), 10u);
 }
 
-TEST_F(Boarders, ReportsASaveUnderItsNeighboursName) {
-  RunScript("alter table tbl_StudentBoarders rename to gone");
-  Save();
-  EXPECT_THAT(LastBox(), ToldBy("frmPage14", "SavePage Routine"));
-  Reopen();
-  EXPECT_THAT(LastBox(), ToldBy("frmPage13", "GetPage Routine"));
-}
-
 }  // namespace
 }  // namespace survey::testing

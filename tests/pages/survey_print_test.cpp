@@ -1,7 +1,5 @@
-#include <numeric>
 #include <tuple>
 
-#include "printing/staff_print.h"
 #include "support/page_test.h"
 
 namespace survey::testing {
@@ -196,19 +194,6 @@ TEST_F(SurveyPrint, PrintsTheListOverAllItsPages) {
                           "Print \"Educator List \"", "X 500", "Print \"\"", "bold off",
                           "Draw gridEducator 300 800 11906 15838 page 1", "NewPage",
                           "Draw gridEducator 300 800 11906 15838 page 2", "EndDoc"));
-}
-
-TEST_F(SurveyPrint, TheSheetThatTwoPagesShareHoldsBothTables) {
-  const auto bottom = [this](const StaffSheet& sheet) {
-    const PrintedGrid& grid = sheet.grids.back();
-    const auto& design = The<GridControl>(std::string(sheet.page), grid.name).design();
-    EXPECT_TRUE(design.heads.empty());
-    const int own = static_cast<int>(design.row_heights.size());
-    return std::accumulate(design.row_heights.begin(), design.row_heights.end(),
-                           grid.top + (design.rows - own) * design.row_height);
-  };
-  EXPECT_LE(bottom(StaffSheets()[2]), 7500);
-  EXPECT_LE(bottom(StaffSheets()[3]), 16838 - 300);
 }
 
 }  // namespace

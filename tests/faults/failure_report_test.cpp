@@ -1,0 +1,106 @@
+// What users read when a page cannot be filled, saved or printed: names that have always stood in
+// the box, and are often another page's.
+
+#include "filled_site.h"
+#include "support/page_test.h"
+
+namespace survey::testing {
+namespace {
+
+using ::testing::IsEmpty;
+
+struct Told {
+  const char* location;
+  const char* procedure;
+};
+
+constexpr Told kNothing = {nullptr, nullptr};
+constexpr Told kEndsTheProgram = {"", ""};  // no handler stands between
+
+constexpr char kGet[] = "GetPage Routine";
+constexpr char kSave[] = "SavePage Routine";
+constexpr char kPrint[] = "Print Routine";
+
+struct FailuresOf {
+  const char* page;
+  Told filled, saved, printed;
+  bool marked = false;  // still, after the save that failed
+};
+
+// clang-format off
+const FailuresOf kPages[] = {
+    {"frmPage2", {"frmPage2", kGet}, {"frmPage2", kSave}, {"frmPage2", kPrint}},
+    {"frmHostels", kEndsTheProgram, kEndsTheProgram, {"frmPage2", kPrint}, true},
+    {"frmPage4", {"frmPage4", kGet}, {"frmPage4", kSave}, {"frmPage4", kPrint}},
+    {"frmStudentTotal", {"frmStudentTotal", kGet}, {"frmStudentTotal", kSave},
+     {"frmStudentTotal", kPrint}},
+    {"frmPage3", {"frmPage3", kGet}, {"frmPage3", kSave}, {"frmPage3", kPrint}},
+    {"frmPage5", {"frmPage3", kGet}, {"frmPage5", kSave}, {"frmPage5", kPrint}},
+    {"frmPage6_1", {"frmPage3", kGet}, {"frmPage6_1", kSave}, {"frmPage6", kPrint}},
+    {"frmPage8", {"frmPage8", kGet}, {"frmPage5", kSave}, {"frmPage8", kPrint}},
+    {"frmPage9", {"frmPage8", kGet}, {"frmPage5", kSave}, {"frmPage9", kPrint}},
+    {"frmPage9_1", {"frmPage9_1", kGet}, {"frmPage9_1", kSave}, {"frmPage9", kPrint}},
+    {"frmOtherProgrammes", {"frmOtherProgrammes", "Get Data Routine"},
+     {"frmOtherProgrammes", "Save Data Routine"}, {"frmPage12_1", kPrint}, true},
+    {"frmPage12_1", {"frmPage12_1", kGet}, kNothing, {"frmPage12_1", kPrint}},
+    {"frmPage12_2", kEndsTheProgram, {"frmPage12_1", kSave}, {"frmPage12_2", kPrint}},
+    {"frmPage9_10", {"frmPage9_10", kGet}, {"frmPage9_10", kSave}, {"frmPage9_10", kPrint}},
+    {"frmPage9_10_1", {"frmPage9_10_1", kGet}, {"frmPage9_10_1", kSave}, {"frmPage9_10_1", kPrint}},
+    {"frmPage14", {"frmPage9_10_1", kGet}, {"frmPage14", kSave}, {"frmPage14", kPrint}},
+    {"frmPage13", {"frmPage13", kGet}, {"frmPage14", kSave}, {"frmPage13", kPrint}},
+    {"frmEducatorData", {"frmEducatorData", "Form_Activate"}, {"frmEducatorData", "cmdSave_Click"},
+     {"frmEducatorData", kPrint}, true},
+    {"frmLecQualifications1", kNothing, kNothing, {"frmLecQualifications1", kPrint}},
+    {"frmLecQualifications2", kNothing, kNothing, {"frmLecQualifications2", kPrint}},
+    {"frmEducatorTeaching1", {"frmEducatorTeaching1", "Load Routine"},
+     {"frmEducatrorTeaching1", "Save Routine"}, {"frmEducatorData", kPrint}},
+    {"frmEducatorTeaching", {"frmEducatorTeaching", "Load Routine"},
+     {"frmEducatrorTeaching", "Save Routine"}, {"frmEducatorData", kPrint}},
+    {"frmEducatorTeaching2", {"frmEducatorTeaching2", kGet}, {"frmStaffQualification", kSave},
+     {"frmEducatorTeaching2", kPrint}},
+};
+// clang-format on
+
+void ExpectTold(FilledSite& site, const Told& told) {
+  const bool ends = told.location == kEndsTheProgram.location;
+  ASSERT_EQ(site.forms.Ended(), ends);
+  std::erase_if(site.dialogs.seen, [](const MessageBox& box) {
+    return box.prompt.find("Location: modDatabaseConnection") != std::string::npos;
+  });
+  if (told.location == nullptr) {
+    EXPECT_THAT(site.dialogs.seen, IsEmpty());
+  } else if (!ends) {
+    EXPECT_THAT(site.LastBox(), ToldBy(told.location, told.procedure));
+  }
+}
+
+TEST(FailureReportTest, BearsTheNamesUsersKnow) {
+  for (const auto& [page, filled, saved, printed, marked] : kPages) {
+    SCOPED_TRACE(page);
+    auto site = std::make_unique<FilledSite>();
+    const auto lose_database = [&site] {
+      site->survey.CloseDatabaseConnection();
+      site->survey.DatabasePath += "gone";
+    };
+    Form& form = site->Open(page);
+    site->printer.cancel = true;
+    site->Click(page, "cmdPrintPage");
+    ExpectTold(*site, printed);
+
+    site->Fill(form, 1);
+    auto& save = form.Find<Button>("cmdSave");
+    save.BackColor = kYellow;
+    lose_database();
+    site->Click(page, "cmdSave");
+    ExpectTold(*site, saved);
+    EXPECT_EQ(save.BackColor == kYellow, marked);
+
+    if (site->forms.Ended()) site = std::make_unique<FilledSite>();
+    lose_database();
+    site->Open(page);
+    ExpectTold(*site, filled);
+  }
+}
+
+}  // namespace
+}  // namespace survey::testing
