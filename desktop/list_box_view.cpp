@@ -19,11 +19,11 @@ class ListWidget : public QListView {
   void keyPressEvent(QKeyEvent* event) override {
     const int before = list_.ListIndex();
     QListView::keyPressEvent(event);
-    // The first key enters the list at its top.
-    const int row = before < 0 && event->key() == Qt::Key_Down ? 0 : currentIndex().row();
-    const bool by_space = event->key() == Qt::Key_Space;
+    // The first key enters the list at its top, where it may have stood unseen.
+    const bool enters = before < 0 && event->key() == Qt::Key_Down;
+    const int row = enters ? 0 : currentIndex().row();
     const bool moved = row != before && selectionModel()->hasSelection();
-    if (moved || by_space) list_.Choose(row);
+    if (enters || moved || event->key() == Qt::Key_Space) list_.Choose(row);
   }
 
  private:

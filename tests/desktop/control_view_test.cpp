@@ -140,6 +140,13 @@ TEST_F(ControlViewTest, ListsAndButtonsWorkByKeyAndDisabledOnesDoNot) {
   user_->ClickEntry("lstNames", "third");
   EXPECT_EQ(sample().lstNames.ListIndex(), 2);
 
+  sample().lstNames.Clear();
+  sample().lstNames.AddItem("only");
+  desktop_->view().Refresh();
+  user_->Usable("lstNames").setFocus();
+  user_->Press(Qt::Key_Down);
+  EXPECT_EQ(sample().lstNames.ListIndex(), 0) << "also where the key has nowhere to go";
+
   sample().cmdCount.Enabled = false;
   sample().lstNames.Clear();
   desktop_->view().Refresh();
