@@ -7,6 +7,7 @@
 namespace survey::testing {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 struct Told {
@@ -85,6 +86,8 @@ TEST(FailureReportTest, BearsTheNamesUsersKnow) {
     Form& form = site->Open(page);
     site->printer.cancel = true;
     site->Click(page, "cmdPrintPage");
+    EXPECT_EQ(site->dialogs.seen.at(0).title, "Error : 32755");
+    EXPECT_THAT(site->printer.operations, ElementsAre("ShowPrinter"));
     ExpectTold(*site, printed);
 
     site->Fill(form, 1);

@@ -27,10 +27,7 @@ class Probe : public Form {
     cbo.on_click = [this] { events.push_back(this->name() + " combo " + cbo.Text()); };
   }
   Layout Arrange() override { return Place(cmdDo); }
-  void Form_Activate() override {
-    events.push_back(name() + " activate");
-    if (activate) activate();
-  }
+  void Form_Activate() override { events.push_back(name() + " activate"); }
 
   Button cmdDo{*this, "cmdDo", "Do"};
   Button cmdSave{*this, "cmdSave", "Save"};
@@ -40,7 +37,6 @@ class Probe : public Form {
   TextBox txt{*this, "txt", "Text"};
   ComboBox cbo{*this, "cbo", "Combo"};
   std::function<void(Probe&)> act;
-  std::function<void()> activate;
   using Form::Trap;
 
  protected:
@@ -164,12 +160,6 @@ TEST_F(Host, AFailureThatNobodyTrapsIsToldAndEndsTheProgram) {
   EXPECT_EQ(LastBox(), "Run-time error '6':\n\nOverflow");
   EXPECT_TRUE(forms.Ended());
   EXPECT_THAT(Query("select SETAID as r from tbl_SETAAccreditation"), ElementsAre("1"));
-}
-
-TEST_F(Host, AFailingActivationIsThatFormsOwn) {
-  P("B").activate = [] { throw TypeMismatch(); };
-  Do("A", [this](Probe&) { forms.Show("B"); });
-  EXPECT_EQ(LastBox(), "Run-time error '13':\n\nType mismatch");
 }
 
 TEST_F(Host, BoxesHaveTheirCaptionPictureAndDefault) {

@@ -119,13 +119,5 @@ TEST_F(Page3, LeavingAYellowPageAsksAndNoKeepsItsCells) {
   EXPECT_THAT(dialogs.seen, IsEmpty());
 }
 
-TEST_F(Page3, ReportsThatPrintingWasCancelled) {
-  printer.cancel = true;
-  Click("cmdPrintPage");
-  EXPECT_THAT(printer.operations, ElementsAre("ShowPrinter"));
-  EXPECT_EQ(dialogs.seen.at(0).title, "Error : 32755");
-  EXPECT_THAT(LastBox(), ::testing::StartsWith("Error Description: Cancel was selected.\r\n"));
-}
-
 }  // namespace
 }  // namespace survey::testing

@@ -42,10 +42,6 @@ TEST_F(DialectTest, AStrayQuoteBreaksAStatementAndNeverRunsASecond) {
         "x'; Delete from lst_province; select '", "'; COMMIT; '", "x') /*", "x'\""}) {
     EXPECT_THROW(connection->Execute("Update lst_province set Province = '" + hostile + "'"),
                  RunTimeError);
-    Recordset rows;
-    EXPECT_THROW(rows.Open("Select * from lst_province where Province = '" + hostile + "'",
-                           connection.get()),
-                 RunTimeError);
   }
   using namespace std::string_literals;
   for (const std::string& statement :
