@@ -175,8 +175,11 @@ bool FormWidget::focusNextPrevChild(bool next) {
 }
 
 void FormWidget::TakeOver() {
+  const QWidget* const before = focusWidget();
   for (const auto& view : views_) view->TakeOver();
   FitWidth();
+  // Whoever has had a part of the form exchanged for another begins at the new part's start.
+  if (before != nullptr && !before->isVisibleTo(this)) begun_ = false;
   if (const Control* wished = form_.TakeFocusRequest()) {
     begun_ = true;
     if (QWidget* widget = WidgetOf(*wished)) widget->setFocus();

@@ -78,9 +78,11 @@ TEST_F(DesktopTest, ASiteIsChosenByProvinceCollegeAndCampus) {
   EXPECT_EQ(user_->The<QLineEdit>("txtCamEmis").text(), "108107587");
   EXPECT_TRUE(user_->The<QLineEdit>("txtCamEmis").isReadOnly());
 
-  user_->Click("cmdContinue");
+  user_->Usable("cmdContinue").setFocus();
+  user_->Press(Qt::Key_Return);
   EXPECT_FALSE(user_->Find("cboProvince").isVisible());
   EXPECT_TRUE(user_->Find("cmdLearner(7)").isVisible());
+  EXPECT_EQ(&user_->Focus(), &user_->Find("cmdGeneral")) << "where the menu begins";
 }
 
 TEST_F(DesktopTest, AnUnsavedPageAsksBeforeItIsLeft) {
