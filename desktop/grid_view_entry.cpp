@@ -172,7 +172,9 @@ bool GridView::GridKey(QKeyEvent& event) {
     grid_.Click(Active().column, 0);  // the head over the cursor, by which a list is sorted
     return true;
   }
-  if (IsEnter(event) || event.key() == Qt::Key_Space) {
+  // The cursor of a list chooses nothing by itself: the first Down chooses where it stands.
+  const bool enters = list_ && event.key() == Qt::Key_Down && !selectionModel()->hasSelection();
+  if (enters || IsEnter(event) || event.key() == Qt::Key_Space) {
     if (!list_ && !IsBox(Active())) return false;
     Operate();
     return true;
