@@ -74,7 +74,10 @@ GridView::GridView(GridControl& grid, QWidget* parent)
   TakeOver();
 }
 
-GridView::~GridView() = default;
+// A line that is being typed into goes after this, and must not report its end to what is gone.
+GridView::~GridView() {
+  if (QLineEdit* editor = delegate_->editor()) editor->removeEventFilter(delegate_);
+}
 
 void GridView::SetUp() {
   setModel(model_);

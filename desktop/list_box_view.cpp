@@ -1,6 +1,7 @@
 #include "desktop/list_box_view.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 
 namespace survey {
@@ -15,6 +16,24 @@ class ListWidget : public QListView {
   }
 
  protected:
+  // What is chosen stays so until another entry is: neither a click below the last one nor Ctrl
+  // takes it back.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override {
+    if (!index.isValid()) return QItemSelectionModel::NoUpdate;
+    const auto command = QListView::selectionCommand(index, event);
+    return (command & QItemSelectionModel::Deselect) != 0 ? QItemSelectionModel::ClearAndSelect
+                                                          : command;
+  }
+
+  // A press and a drag mark an entry; the mouse chooses where it is let go.
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QListView::mouseReleaseEvent(event);
+    const int row = currentIndex().row();
+    if (!selectionModel()->hasSelection()) return;
+    if (row != list_.ListIndex() || indexAt(event->pos()).isValid()) list_.Choose(row);
+  }
+
   // Moving through the list by key chooses, as clicking does.
   void keyPressEvent(QKeyEvent* event) override {
     const int before = list_.ListIndex();
@@ -45,10 +64,6 @@ ListBoxView::ListBoxView(ListBox& list, QWidget* parent)
       widget_(static_cast<QListView&>(*widget())),
       model_(*new QStringListModel(&widget_)) {
   widget_.setModel(&model_);
-  QObject::connect(&widget_, &QListView::clicked, &widget_, [this](const QModelIndex& index) {
-    list_.Choose(index.row());
-    TakeOver();
-  });
 }
 
 void ListBoxView::TakeOverState() {

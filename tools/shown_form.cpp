@@ -46,7 +46,9 @@ void CheckGrid(Findings& findings, const GridView& view, const GridControl& grid
                        Place(active.column, active.row));
   for (const QModelIndex& chosen : view.selectionModel()->selectedIndexes()) {
     if (view.selectionBehavior() != QAbstractItemView::SelectRows) break;
-    findings.Require(chosen.row() + 1 == active.row, "another row is chosen than the active one");
+    findings.Require(chosen.row() + 1 == active.row, "row " + std::to_string(chosen.row() + 1) +
+                                                         " is chosen, the active one is " +
+                                                         std::to_string(active.row));
   }
   for (int row = 1; row <= model.rowCount(); ++row) {
     findings.Require(!grid.IsRowHidden(row) || view.isRowHidden(row - 1),
