@@ -105,18 +105,27 @@ void GridView::TakeOver() {
   taken_over_ = grid_.revision();
   const QScopedValueRollback following(following_, true);
   model_->TakeOver();
-  GridSheet sheet(grid_, UnitsPerTwip(*this));
-  if (sheet != *sheet_) {
-    *sheet_ = std::move(sheet);
-    painter_ = std::make_unique<GridPainter>(grid_, *sheet_, font(), kPoints);
-    LayOut();
-  }
+  Measure();
   if (delegate_->editor() != nullptr && !committing_ &&
       !grid_.IsOpen(delegate_->cell().column, delegate_->cell().row)) {
     CloseEditor();
   }
   FollowActiveCell();
   UpdatePanes();
+}
+
+void GridView::Measure() {
+  GridSheet sheet(grid_, UnitsPerTwip(*this));
+  if (sheet == *sheet_) return;
+  *sheet_ = std::move(sheet);
+  painter_ = std::make_unique<GridPainter>(grid_, *sheet_, font(), kPoints);
+  LayOut();
+}
+
+// At once: cells that changed their size under the next click would be missed by it.
+void GridView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Measure();
 }
 
 void GridView::FollowActiveCell() {

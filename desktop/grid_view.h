@@ -42,6 +42,7 @@ class GridView : public QTableView {
   void keyboardSearch(const QString& search) override;
 
  protected:
+  void changeEvent(QEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -59,6 +60,7 @@ class GridView : public QTableView {
 
   // ---- Looks
   void SetUp();
+  void Measure();
   void LayOut();
   void SetSpans();
   void UpdatePanes();

@@ -294,6 +294,11 @@ class RandomHands {
     Note("presses " + QKeySequence(key | modifiers).toString().toStdString() + " in " +
          (focus == nullptr ? "nothing" : NameOf(*focus)));
     const QPointer<QWindow> window = front.windowHandle();
+    if (QApplication::activePopupWidget() == &front) {  // may be gone with the first of two events
+      QKeyEvent press(QEvent::KeyPress, key, modifiers);
+      QCoreApplication::sendEvent(window, &press);
+      return;
+    }
     QTest::keyPress(window, key, modifiers);
     if (window) QTest::keyRelease(window, key, modifiers);
   }
