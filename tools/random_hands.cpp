@@ -9,14 +9,12 @@
 #include <QInputDialog>
 #include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
 #include <QPointer>
-#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
+#include <map>
 #include <memory>
 #include <random>
 #include <utility>
@@ -224,7 +222,11 @@ class RandomHands {
       auto* name = dialog.findChild<QLineEdit*>("filename");
       const bool to_file = name != nullptr && name->isVisible() && name->isEnabled();
       if (to_file) name->setText(PrintFile());
-      to_file ? End(dialog) : dialog.reject();
+      if (to_file) {
+        End(dialog);
+      } else {
+        dialog.reject();
+      }
       return true;
     }
     if (qobject_cast<QInputDialog*>(&dialog) != nullptr && Chance(50)) {
@@ -239,7 +241,6 @@ class RandomHands {
     } else {
       dialog.reject();
     }
-    // A dialog that does not take the answer asks again, and is left at last.
   }
 
   QString PrintFile() const {
@@ -452,8 +453,10 @@ class RandomHands {
     const QWidget* front = desktop_->view().FrontWindow();
     if (modal != worked_on_ || (modal != nullptr && modal != front)) return;
     for (const FormWidget* form : front->findChildren<FormWidget*>()) {
-      if (form->isVisible())
-        findings_.Require(WhereShownDiffers(*form).empty(), WhereShownDiffers(*form));
+      if (!form->isVisible()) continue;
+      report_.forms.insert(form->form().name());
+      const std::string difference = WhereShownDiffers(*form);
+      findings_.Require(difference.empty(), difference);
     }
     if (QApplication::activePopupWidget() != nullptr) return;
     const QWidget* focus = QApplication::focusWidget();

@@ -3,16 +3,18 @@
 
 #include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
 
 namespace survey::testing {
 
 struct RandomHandsReport {
   int steps = 0;
-  int dialogs = 0;    // steps within boxes and modal forms
-  int starts = 0;     // of the program
-  int saves = 0;      // changes of a database file, which then was opened
-  std::string fault;  // the first that is not as it must be; empty where all was well
+  std::set<std::string> forms;  // that came to the front
+  int dialogs = 0;              // steps within boxes and modal forms
+  int starts = 0;               // of the program
+  int saves = 0;                // changes of a database file, which then was opened
+  std::string fault;            // the first that is not as it must be; empty where all was well
 };
 
 // Works the real windows as hands can: any key, click, drag and wheel, anything pasted, windows of

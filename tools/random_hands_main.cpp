@@ -38,9 +38,9 @@ int Work(std::uint32_t seed, int steps, int trail) {
     const std::string line = action + "\n";
     if (write(trail, line.data(), line.size()) < 0) std::abort();
   });
-  std::cout << "seed " << seed << ": " << report.steps << " steps, " << report.dialogs
-            << " in dialogs, " << report.starts << " starts, " << report.saves << " saves"
-            << std::endl;
+  std::cout << "seed " << seed << ": " << report.steps << " steps on " << report.forms.size()
+            << " forms, " << report.dialogs << " in dialogs, " << report.starts << " starts, "
+            << report.saves << " saves" << std::endl;
   if (!report.fault.empty()) std::cout << "FAULT: " << report.fault << std::endl;
   return report.fault.empty() ? 0 : 1;
 }
