@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
@@ -113,6 +114,14 @@ class ComboBoxWidget : public QComboBox {
 
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
+  // Characters composed of several keys go to the control as those of one key do; the line would
+  // take them although it is read only.
+  void inputMethodEvent(QInputMethodEvent* event) override {
+    if (!TakesCharacters()) return QComboBox::inputMethodEvent(event);
+    HandOverSelection();
+    PressKeys(event->commitString());
+  }
+
   // The list that takes the focus would clear the selection of the line above it.
   void focusOutEvent(QFocusEvent* event) override {
     QComboBox::focusOutEvent(event);
@@ -146,10 +155,14 @@ class ComboBoxWidget : public QComboBox {
     }
     if (!IsCharacter(event)) return false;
     HandOverSelection();
-    for (const uint character : event.text().toUcs4()) {
+    PressKeys(event.text());
+    return true;
+  }
+
+  void PressKeys(const QString& characters) {
+    for (const uint character : characters.toUcs4()) {
       box_.KeyPress(static_cast<char32_t>(character));
     }
-    return true;
   }
 
   // While the list is open the line has no focus, and its selection is the control's.

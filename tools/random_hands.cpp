@@ -14,10 +14,12 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <random>
 #include <utility>
+#include <vector>
 
 #include "desktop/desktop.h"
 #include "desktop/qt_printer.h"
@@ -180,11 +182,11 @@ class RandomHands {
   void LookForDialog() {
     watch_.start(kLookEveryMs);
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !dialog->isVisible() || dialog == worked_on_) {
+    if (dialog == nullptr || !dialog->isVisible() || std::ranges::count(worked_on_, dialog) > 0) {
       if (++looks_ % kLongInAction == 0) DropWhatIsDragged();
       return;
     }
-    QWidget* const before = std::exchange(worked_on_, dialog);
+    worked_on_.push_back(dialog);
     if (dialog != last_dialog_) in_dialog_ = 0;
     last_dialog_ = dialog;
     ++report_.dialogs;
@@ -196,7 +198,7 @@ class RandomHands {
     } else if (!AnswerDialog(*dialog)) {
       Act();
     }
-    worked_on_ = before;
+    worked_on_.pop_back();
   }
 
   void DropWhatIsDragged() {
@@ -451,7 +453,9 @@ class RandomHands {
     if (!desktop_ || desktop_->forms().Ended()) return;
     const QWidget* modal = QApplication::activeModalWidget();
     const QWidget* front = desktop_->view().FrontWindow();
-    if (modal != worked_on_ || (modal != nullptr && modal != front)) return;
+    if (modal != (worked_on_.empty() ? nullptr : worked_on_.back()) ||
+        (modal != nullptr && modal != front))
+      return;
     for (const FormWidget* form : front->findChildren<FormWidget*>()) {
       if (!form->isVisible()) continue;
       report_.forms.insert(form->form().name());
@@ -484,7 +488,7 @@ class RandomHands {
   std::map<std::string, fs::file_time_type> written_;
   std::unique_ptr<Desktop> desktop_;
   QTimer watch_;
-  QWidget* worked_on_ = nullptr;  // the dialog that an action works on
+  std::vector<QWidget*> worked_on_;  // dialogs that actions work on, the last one in front
   QWidget* last_dialog_ = nullptr;
   int in_dialog_ = 0;  // steps
   int looks_ = 1;      // since an action began

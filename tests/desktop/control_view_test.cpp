@@ -104,7 +104,9 @@ TEST_F(ControlViewTest, TypingAheadShowsTheTextAndSelectionOfTheControl) {
   user_->Press(Qt::Key_Backspace);
   EXPECT_EQ(line.text(), "100001 entry") << "what editing does to the line is the control's choice";
   sample().cboSearch.SelectionStart = 3;
-  user_->Type("9");
+  QInputMethodEvent composed;
+  composed.setCommitString("9");
+  QCoreApplication::sendEvent(&user_->Find("cboSearch"), &composed);
   EXPECT_EQ(line.text(), "100900 entry");
   user_->Type("x");
   EXPECT_EQ(line.text(), "100900 entry") << "a character that leads nowhere is dropped";
