@@ -1,5 +1,5 @@
-#ifndef TOOLS_KILL_SAVES_H_
-#define TOOLS_KILL_SAVES_H_
+#ifndef TOOLS_TRIALS_KILL_SAVES_H_
+#define TOOLS_TRIALS_KILL_SAVES_H_
 
 #include <cstdint>
 #include <string>
@@ -24,4 +24,4 @@ KillReport KillSaves(int rounds, std::uint32_t seed);
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_KILL_SAVES_H_
+#endif  // TOOLS_TRIALS_KILL_SAVES_H_

@@ -1,5 +1,5 @@
-#ifndef TOOLS_MISFORTUNES_H_
-#define TOOLS_MISFORTUNES_H_
+#ifndef TOOLS_TRIALS_MISFORTUNES_H_
+#define TOOLS_TRIALS_MISFORTUNES_H_
 
 #include <filesystem>
 #include <string>
@@ -31,4 +31,4 @@ std::string FillDiskDuringSave(const SavedPart& part);
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_MISFORTUNES_H_
+#endif  // TOOLS_TRIALS_MISFORTUNES_H_

@@ -1,5 +1,5 @@
-#ifndef TOOLS_RANDOM_USER_H_
-#define TOOLS_RANDOM_USER_H_
+#ifndef TOOLS_TRIALS_RANDOM_USER_H_
+#define TOOLS_TRIALS_RANDOM_USER_H_
 
 #include <cstdint>
 #include <map>
@@ -25,4 +25,4 @@ RandomUserReport RunRandomUser(std::uint32_t seed, int steps);
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_RANDOM_USER_H_
+#endif  // TOOLS_TRIALS_RANDOM_USER_H_

@@ -1,5 +1,5 @@
-#ifndef TOOLS_DISK_FAULTS_H_
-#define TOOLS_DISK_FAULTS_H_
+#ifndef TOOLS_TRIALS_DISK_FAULTS_H_
+#define TOOLS_TRIALS_DISK_FAULTS_H_
 
 namespace survey::testing {
 
@@ -19,4 +19,4 @@ int EndDiskFaults();
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_DISK_FAULTS_H_
+#endif  // TOOLS_TRIALS_DISK_FAULTS_H_

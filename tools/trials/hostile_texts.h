@@ -1,5 +1,5 @@
-#ifndef TOOLS_HOSTILE_TEXTS_H_
-#define TOOLS_HOSTILE_TEXTS_H_
+#ifndef TOOLS_TRIALS_HOSTILE_TEXTS_H_
+#define TOOLS_TRIALS_HOSTILE_TEXTS_H_
 
 #include <string>
 
@@ -20,4 +20,4 @@ HostileReport EnterHostileTexts();
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_HOSTILE_TEXTS_H_
+#endif  // TOOLS_TRIALS_HOSTILE_TEXTS_H_

@@ -1,5 +1,5 @@
-#ifndef TOOLS_RANDOM_HANDS_H_
-#define TOOLS_RANDOM_HANDS_H_
+#ifndef TOOLS_TRIALS_RANDOM_HANDS_H_
+#define TOOLS_TRIALS_RANDOM_HANDS_H_
 
 #include <cstdint>
 #include <functional>
@@ -28,4 +28,4 @@ RandomHandsReport RunRandomHands(std::uint32_t seed, int steps,
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_RANDOM_HANDS_H_
+#endif  // TOOLS_TRIALS_RANDOM_HANDS_H_

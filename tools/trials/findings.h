@@ -1,5 +1,5 @@
-#ifndef TOOLS_FINDINGS_H_
-#define TOOLS_FINDINGS_H_
+#ifndef TOOLS_TRIALS_FINDINGS_H_
+#define TOOLS_TRIALS_FINDINGS_H_
 
 #include <string>
 #include <utility>
@@ -23,4 +23,4 @@ class Findings {
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_FINDINGS_H_
+#endif  // TOOLS_TRIALS_FINDINGS_H_

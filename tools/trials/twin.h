@@ -1,5 +1,5 @@
-#ifndef TOOLS_TWIN_H_
-#define TOOLS_TWIN_H_
+#ifndef TOOLS_TRIALS_TWIN_H_
+#define TOOLS_TRIALS_TWIN_H_
 
 #include <map>
 #include <optional>
@@ -66,4 +66,4 @@ class Twin {
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_TWIN_H_
+#endif  // TOOLS_TRIALS_TWIN_H_

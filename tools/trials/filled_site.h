@@ -1,5 +1,5 @@
-#ifndef TOOLS_FILLED_SITE_H_
-#define TOOLS_FILLED_SITE_H_
+#ifndef TOOLS_TRIALS_FILLED_SITE_H_
+#define TOOLS_TRIALS_FILLED_SITE_H_
 
 #include <map>
 #include <string>
@@ -48,4 +48,4 @@ class FilledSite : public World {
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_FILLED_SITE_H_
+#endif  // TOOLS_TRIALS_FILLED_SITE_H_

@@ -1,5 +1,5 @@
-#ifndef TOOLS_SHOWN_FORM_H_
-#define TOOLS_SHOWN_FORM_H_
+#ifndef TOOLS_TRIALS_SHOWN_FORM_H_
+#define TOOLS_TRIALS_SHOWN_FORM_H_
 
 #include <string>
 
@@ -13,4 +13,4 @@ std::string WhereShownDiffers(const FormWidget& shown);
 
 }  // namespace survey
 
-#endif  // TOOLS_SHOWN_FORM_H_
+#endif  // TOOLS_TRIALS_SHOWN_FORM_H_

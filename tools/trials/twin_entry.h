@@ -1,5 +1,5 @@
-#ifndef TOOLS_TWIN_ENTRY_H_
-#define TOOLS_TWIN_ENTRY_H_
+#ifndef TOOLS_TRIALS_TWIN_ENTRY_H_
+#define TOOLS_TRIALS_TWIN_ENTRY_H_
 
 #include <string>
 
@@ -23,4 +23,4 @@ bool Takes(const CellKind& kind, const std::string& text, std::string& held);
 
 }  // namespace survey::testing
 
-#endif  // TOOLS_TWIN_ENTRY_H_
+#endif  // TOOLS_TRIALS_TWIN_ENTRY_H_
