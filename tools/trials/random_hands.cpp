@@ -25,6 +25,7 @@
 #include "desktop/qt_printer.h"
 #include "filled_site.h"
 #include "findings.h"
+#include "hand_inputs.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
 #include "shown_form.h"
@@ -41,70 +42,6 @@ constexpr int kLongInDialog = 60;  // steps, after which it is closed
 // Looks during which an action neither ends nor opens a dialog: it waits for something to be
 // dropped.
 constexpr int kLongInAction = 400;
-
-constexpr std::pair<Qt::Key, Qt::KeyboardModifiers> kKeys[] = {
-    {Qt::Key_Return, {}},
-    {Qt::Key_Return, {}},
-    {Qt::Key_Return, Qt::ShiftModifier},
-    {Qt::Key_Return, Qt::ControlModifier},
-    {Qt::Key_Enter, Qt::KeypadModifier},
-    {Qt::Key_Up, {}},
-    {Qt::Key_Down, {}},
-    {Qt::Key_Left, {}},
-    {Qt::Key_Right, {}},
-    {Qt::Key_Up, Qt::ShiftModifier},
-    {Qt::Key_Down, Qt::ShiftModifier},
-    {Qt::Key_Left, Qt::ShiftModifier},
-    {Qt::Key_Right, Qt::ShiftModifier},
-    {Qt::Key_Down, Qt::ControlModifier},
-    {Qt::Key_Down, Qt::AltModifier},
-    {Qt::Key_Tab, {}},
-    {Qt::Key_Tab, {}},
-    {Qt::Key_Backtab, Qt::ShiftModifier},
-    {Qt::Key_Escape, {}},
-    {Qt::Key_F2, {}},
-    {Qt::Key_F4, {}},
-    {Qt::Key_F10, Qt::ShiftModifier},
-    {Qt::Key_Menu, {}},
-    {Qt::Key_Delete, {}},
-    {Qt::Key_Backspace, {}},
-    {Qt::Key_Insert, {}},
-    {Qt::Key_Home, {}},
-    {Qt::Key_End, {}},
-    {Qt::Key_Home, Qt::ControlModifier},
-    {Qt::Key_End, Qt::ControlModifier},
-    {Qt::Key_End, Qt::ShiftModifier},
-    {Qt::Key_PageUp, {}},
-    {Qt::Key_PageDown, {}},
-    {Qt::Key_A, Qt::ControlModifier},
-    {Qt::Key_C, Qt::ControlModifier},
-    {Qt::Key_X, Qt::ControlModifier},
-    {Qt::Key_V, Qt::ControlModifier},
-    {Qt::Key_Z, Qt::ControlModifier},
-    {Qt::Key_S, Qt::ControlModifier},
-    {Qt::Key_P, Qt::ControlModifier},
-    {Qt::Key_M, Qt::ControlModifier},
-    {Qt::Key_PageDown, Qt::ControlModifier},
-    {Qt::Key_PageUp, Qt::ControlModifier},
-    {Qt::Key_Space, {}},
-    {Qt::Key_Space, {}},
-};
-const QString kWords[] = {"0",       "7",          "31",      "007", "1.5", "-1",      "12 A",
-                          "9999999", "O'Brien",    "Söhne",   "中",  "😀",   "e\u0301", "2012/02/30",
-                          "%_*",     "1980-01-04", "\u200f1", "x",   "Y",   " "};
-const QString kBlocks[] = {"1\t2\t3\r\n4\t5\t6\r\n",
-                           "\"a\nb\"\t\"c\"\"d\"",
-                           "\"open\t1\n2",
-                           "\t\t\t",
-                           "\r\n\r\n",
-                           "12",
-                           "x\ty",
-                           "",
-                           "1\r2\r3",
-                           "8001015009087",
-                           "\u2028\u2029",
-                           "😀\t中"};
-const QString kNames[] = {"North", "South Campus", "8001015009087", "A1"};
 
 std::string NameOf(const QWidget& widget) {
   const QString name = widget.objectName();
