@@ -31,12 +31,12 @@ survey::DesktopPlaces PlacesFrom(const QStringList& arguments) {
 
 int Run() {
   survey::Desktop desktop(PlacesFrom(QCoreApplication::arguments()));
-  survey::RegisterShell(desktop.forms());
-  survey::RegisterPages(desktop.forms());
+  survey::RegisterShell(desktop.host());
+  survey::RegisterPages(desktop.host());
   // Queued, for the program may end before it has begun to wait for the user.
   QObject::connect(&desktop.view(), &survey::DesktopView::Ended, qApp, &QCoreApplication::quit,
                    Qt::QueuedConnection);
-  desktop.forms().Start("frmSelectDatabase");
+  desktop.host().Start("frmSelectDatabase");
   return QApplication::exec();
 }
 

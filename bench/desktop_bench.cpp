@@ -91,23 +91,23 @@ Showing Show(Desktop& desktop, QMainWindow& plain, const std::string& page) {
   Showing times;
   constexpr int kTimes = 11;
   for (int i = 0; i < kTimes; ++i) {
-    Form& menu = *desktop.forms().Front();
+    Form& menu = *desktop.host().Front();
     QElapsedTimer timer;
     timer.start();
-    desktop.forms().Dispatch(menu, [&] {
-      desktop.forms().Show(page);
-      desktop.forms().Unload(menu);
+    desktop.host().Dispatch(menu, [&] {
+      desktop.host().Show(page);
+      desktop.host().Unload(menu);
     });
     Settle(desktop.view().window());
     times.ours.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
     timer.restart();
-    plain.setCentralWidget(PlainTables(desktop.forms().Get(page)));
+    plain.setCentralWidget(PlainTables(desktop.host().Get(page)));
     Settle(plain);
     times.plain.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    Form& shown = *desktop.forms().Front();
-    desktop.forms().Dispatch(shown, [&] {
-      desktop.forms().Show("frmMainMenu");
-      desktop.forms().Unload(shown);
+    Form& shown = *desktop.host().Front();
+    desktop.host().Dispatch(shown, [&] {
+      desktop.host().Show("frmMainMenu");
+      desktop.host().Unload(shown);
     });
     Settle(desktop.view().window());
   }
@@ -146,9 +146,9 @@ int Run(int argc, char** argv) {
   const QApplication application(argc, argv);
   SetUpApplication();
   Desktop desktop;
-  RegisterShell(desktop.forms());
-  RegisterPages(desktop.forms());
-  desktop.forms().Start("frmSelectDatabase");
+  RegisterShell(desktop.host());
+  RegisterPages(desktop.host());
+  desktop.host().Start("frmSelectDatabase");
   Settle(desktop.view().window());
   TellFirstWindow(argv[0]);
 
@@ -158,11 +158,11 @@ int Run(int argc, char** argv) {
   desktop.survey().DatabasePath = database.string();
   desktop.survey().CollegeEmisNumber = 101;
   desktop.survey().CampusEmisNumber = 202;
-  desktop.forms().Get("frmMainMenu").EditMode = "Edit";
-  Form& first = *desktop.forms().Front();
-  desktop.forms().Dispatch(first, [&] {
-    desktop.forms().Show("frmMainMenu");
-    desktop.forms().Unload(first);
+  desktop.host().Get("frmMainMenu").EditMode = "Edit";
+  Form& first = *desktop.host().Front();
+  desktop.host().Dispatch(first, [&] {
+    desktop.host().Show("frmMainMenu");
+    desktop.host().Unload(first);
   });
   QMainWindow plain;
   plain.resize(desktop.view().window().size());
@@ -170,7 +170,7 @@ int Run(int argc, char** argv) {
   std::string last;
   for (const Link& link : PageChain()) {
     const std::string page(link.page);
-    if (page == last || !desktop.forms().IsBuilt(page)) continue;
+    if (page == last || !desktop.host().IsBuilt(page)) continue;
     last = page;
     const Showing times = Show(desktop, plain, page);
     const double ours = Median(times.ours);

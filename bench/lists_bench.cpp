@@ -12,8 +12,8 @@ void StaffList(benchmark::State& state) {
       "IDNumber)"
       " with recursive n(i) as (select 1 union all select i + 1 from n where i < 1000) "
       "select 199010830, 108107587, 'SURNAME ' || (i * 7919 % 1000), 'A', 'ID' || i from n");
-  program.forms.Start("frmSelectEducator");
-  Form& list = program.forms.Get("frmSelectEducator");
+  program.host.Start("frmSelectEducator");
+  Form& list = program.host.Get("frmSelectEducator");
   for (auto _ : state) list.Form_Activate();
 }
 BENCHMARK(StaffList)->Unit(benchmark::kMicrosecond);
@@ -24,7 +24,7 @@ void SubjectSearch(benchmark::State& state) {
       "insert into lst_Subject(SubjectCode, Description, Programme) "
       "with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
       "select 'C' || i, 'Subject of number ' || i, 'NSC' from n");
-  program.forms.Start("frmEducatorTeaching");
+  program.host.Start("frmEducatorTeaching");
   program.The<TextBox>("frmEducatorTeaching", "txtSearch").Enter("of number 99");
   for (auto _ : state) {
     program.The<TextBox>("frmEducatorTeaching", "txtSearch").Enter("of number 99");
@@ -40,7 +40,7 @@ void TypeAhead(benchmark::State& state) {
       "insert into lst_OccupationalQualification(NQFID, QualificationTitle, NQFField, NQFLevel) "
       "with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
       "select 900000 + i, 'Certificate ' || i, 1, 'Level 2' from n");
-  program.forms.Start("frmPage12_1");
+  program.host.Start("frmPage12_1");
   ComboBox& combo = program.The<ComboBox>("frmPage12_1", "cboSelect");
   for (auto _ : state) {
     combo.SetText("90999");

@@ -36,8 +36,8 @@ void Fail(const std::string& why) {
 }
 
 Program::Program() {
-  RegisterShell(forms);
-  RegisterPages(forms);
+  RegisterShell(host);
+  RegisterPages(host);
   OpenSite(199010830, 108107587);  // one of the template's
   survey.set_statement_observer({});
 }

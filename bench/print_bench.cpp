@@ -73,10 +73,10 @@ double Milliseconds(std::clock_t since) {
 }
 
 // The texts of each page of a staff member, a sheet each.
-std::vector<QStringList> TextsOf(Forms& forms, const std::string& id) {
+std::vector<QStringList> TextsOf(FormHost& host, const std::string& id) {
   std::vector<QStringList> sheets;
   for (const char* page : testing::kStaffPages) {
-    forms.Unseen(page, [&](Form& form) {
+    host.RunOffScreen(page, [&](Form& form) {
       form.EducatorId = id;
       form.FormMode = "Edit";
       form.Form_Activate();
@@ -115,14 +115,14 @@ double PrintPlainly(const std::vector<QStringList>& sheets, int times, const std
 Measured Measure(const Size& size) {
   testing::World world;
   OneFile printer;
-  Forms forms(world.survey, {world.dialogs, printer, world.settings, world.program_folder});
-  RegisterShell(forms);
-  RegisterPages(forms);
+  FormHost host(world.survey, {world.dialogs, printer, world.settings, world.program_folder});
+  RegisterShell(host);
+  RegisterPages(host);
   world.OpenSite(199010830, 108107587);
   testing::Figures figures;
-  forms.Start("frmSelectEducator");
-  testing::AddStaff(forms, size.people, figures);
-  Form& list = forms.Get("frmSelectEducator");
+  host.Start("frmSelectEducator");
+  testing::AddStaff(host, size.people, figures);
+  Form& list = host.Get("frmSelectEducator");
   list.Form_Activate();
   const auto print_to = [&](const char* name, int prints) {
     const std::string file = (world.folder.path() / name).string();
@@ -142,7 +142,7 @@ Measured Measure(const Size& size) {
   const double milliseconds = Milliseconds(start);
   const double most = Status("VmHWM");
   const int people = size.people * size.prints;
-  const double plain = PrintPlainly(TextsOf(forms, list.Find<Grid>("gridEducator").GetText(2, 1)),
+  const double plain = PrintPlainly(TextsOf(host, list.Find<Grid>("gridEducator").GetText(2, 1)),
                                     people, (world.folder.path() / "plain.pdf").string());
   if (!world.dialogs.seen.empty()) throw std::runtime_error(world.dialogs.seen[0].prompt);
   return {milliseconds / people, plain / people, (most - before) / people, file / people};

@@ -20,22 +20,22 @@ constexpr char kStaffId[] = "7001010001";  // the first that AddStaff adds
 struct FilledProgram : Program {
   explicit FilledProgram(int people) {
     Figures figures;
-    testing::FillCampus(forms, figures);
-    testing::AddStaff(forms, people, figures);
+    testing::FillCampus(host, figures);
+    testing::AddStaff(host, people, figures);
     dialogs.seen.clear();  // the instrument has something to say about some answers
   }
 
   Form& Page(const std::string& name) {
-    Form& page = forms.Get(name);
+    Form& page = host.Get(name);
     page.EducatorId = kStaffId;
     page.FormMode = "Edit";
     return page;
   }
   void Open(const std::string& name) {
     Page(name);
-    forms.Start(name);
+    host.Start(name);
   }
-  void Close(const std::string& name) { forms.Unload(forms.Get(name)); }
+  void Close(const std::string& name) { host.Unload(host.Get(name)); }
   void Save(const std::string& name) { Page(name).Find<Button>("cmdSave").Click(); }
 };
 
@@ -108,7 +108,7 @@ void OpenAndSaveAll(FilledProgram& program, const char* const (&pages)[kPages]) 
 void AmongSites(benchmark::State& state) {
   FilledProgram many(1);
   FilledProgram alone(1);
-  testing::AddSites(many.forms, static_cast<int>(state.range(0)) - 1);
+  testing::AddSites(many.host, static_cast<int>(state.range(0)) - 1);
   Compare(
       state, [&] { OpenAndSaveAll(many, kCampusPages); },
       [&] { OpenAndSaveAll(alone, kCampusPages); });

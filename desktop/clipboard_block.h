@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "forms/controls.h"
+#include "forms/control_kinds.h"
 
 namespace survey {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "forms/controls.h"
+#include "forms/control_kinds.h"
 
 class QButtonGroup;
 

@@ -77,8 +77,8 @@ struct Desktop::Parts {
   QtSettings settings;
   QtProgramFolder program_folder;
   Survey survey;
-  Forms forms{survey, Platform{dialogs, printer, settings, program_folder}};
-  DesktopView view{forms};
+  FormHost host{survey, Platform{dialogs, printer, settings, program_folder}};
+  DesktopView view{host};
 };
 
 void SetUpApplication() {
@@ -96,7 +96,7 @@ Desktop::~Desktop() = default;
 
 Survey& Desktop::survey() { return parts_->survey; }
 
-Forms& Desktop::forms() { return parts_->forms; }
+FormHost& Desktop::host() { return parts_->host; }
 
 DesktopView& Desktop::view() { return parts_->view; }
 

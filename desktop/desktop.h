@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "desktop/desktop_view.h"
-#include "forms/forms.h"
-#include "platform/printer.h"
+#include "forms/form_host.h"
+#include "printing/printer.h"
 #include "store/survey.h"
 
 namespace survey {
@@ -21,7 +21,7 @@ struct DesktopPlaces {
   QString settings_file = {};
 };
 
-// The whole program on a desktop, without its forms: those are registered with forms().
+// The whole program on a desktop, without its forms: those are registered with host().
 class Desktop {
  public:
   explicit Desktop(const DesktopPlaces& places = {});
@@ -30,7 +30,7 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
 
   Survey& survey();
-  Forms& forms();
+  FormHost& host();
   DesktopView& view();
 
  private:

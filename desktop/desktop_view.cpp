@@ -57,7 +57,7 @@ class FormDialog : public QDialog {
   }
 
   // The close box, and Esc.
-  void reject() override { form().forms().CloseBox(form()); }
+  void reject() override { form().host().CloseBox(form()); }
 
  protected:
   void closeEvent(QCloseEvent* event) override {
@@ -69,8 +69,8 @@ class FormDialog : public QDialog {
   FormWidget* contents_;
 };
 
-DesktopView::DesktopView(Forms& forms)
-    : forms_(forms),
+DesktopView::DesktopView(FormHost& host)
+    : host_(host),
       window_(std::make_unique<MainWindow>([this] { CloseMainWindow(); })),
       pages_(new QStackedWidget(window_.get())) {
   window_->setObjectName("mainWindow");
@@ -83,10 +83,10 @@ DesktopView::DesktopView(Forms& forms)
   no_page_ = picture;
   pages_->addWidget(no_page_);
   window_->setCentralWidget(pages_);
-  forms_.set_view(this);
+  host_.set_view(this);
 }
 
-DesktopView::~DesktopView() { forms_.set_view(nullptr); }
+DesktopView::~DesktopView() { host_.set_view(nullptr); }
 
 QWidget* DesktopView::FrontWindow() const {
   if (!dialogs_.empty()) return dialogs_.back();
@@ -106,7 +106,7 @@ void DesktopView::Refresh() {
     } while (again_);
   }
   Q_EMIT ActionEnded();
-  if (forms_.Ended() && dialogs_.empty()) {
+  if (host_.Ended() && dialogs_.empty()) {
     window_->hide();
     Q_EMIT Ended();
   }
@@ -119,15 +119,15 @@ void DesktopView::RunModal(Form& form) {
   dialog.resize(dialog.sizeHint());  // left alone it takes two thirds of the screen at most
   dialog.exec();
   // The whole desktop may be closing under an open dialog.
-  if (form.loaded()) forms_.CloseBox(form);
+  if (form.loaded()) host_.CloseBox(form);
   std::erase(dialogs_, &dialog);
 }
 
 void DesktopView::TakeOver() {
   DropUnloaded();
   Form* front = nullptr;
-  for (Form* form : forms_.shown()) {
-    if (!forms_.IsModal(*form)) front = form;
+  for (Form* form : host_.shown()) {
+    if (!host_.IsModal(*form)) front = form;
   }
   if (front != nullptr) {
     ShowInMainWindow(*front);
@@ -162,7 +162,7 @@ void DesktopView::ShowInMainWindow(Form& form) {
 
 void DesktopView::CloseMainWindow() {
   if (!dialogs_.empty()) return;
-  if (Form* front = forms_.Front()) forms_.CloseBox(*front);
+  if (Form* front = host_.Front()) host_.CloseBox(*front);
 }
 
 }  // namespace survey

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "desktop/form_widget.h"
-#include "forms/forms.h"
+#include "forms/form_host.h"
 
 class QStackedWidget;
 
@@ -22,7 +22,7 @@ class DesktopView : public QObject, public FormsView {
 
  public:
   // `forms` must outlive the view, which is its view from now on.
-  explicit DesktopView(Forms& forms);
+  explicit DesktopView(FormHost& host);
   ~DesktopView() override;
 
   void Refresh() override;
@@ -44,7 +44,7 @@ class DesktopView : public QObject, public FormsView {
   void ShowInMainWindow(Form& form);
   void CloseMainWindow();
 
-  Forms& forms_;
+  FormHost& host_;
   std::unique_ptr<QMainWindow> window_;
   QStackedWidget* pages_;
   QWidget* no_page_;  // seen while a modal form has no other beneath

@@ -4,7 +4,7 @@
 #include <QTableView>
 #include <memory>
 
-#include "forms/controls.h"
+#include "forms/control_kinds.h"
 
 namespace survey {
 

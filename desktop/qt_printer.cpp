@@ -7,9 +7,9 @@
 #include <QPrintDialog>
 #include <cmath>
 
+#include "base/run_time_error.h"
 #include "desktop/grid_pages.h"
 #include "forms/message_boxes.h"
-#include "store/run_time_error.h"
 
 namespace survey {
 namespace {

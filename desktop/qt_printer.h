@@ -7,7 +7,7 @@
 #include <QString>
 #include <memory>
 
-#include "platform/printer.h"
+#include "printing/printer.h"
 
 namespace survey {
 

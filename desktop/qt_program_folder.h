@@ -1,7 +1,7 @@
 #ifndef DESKTOP_QT_PROGRAM_FOLDER_H_
 #define DESKTOP_QT_PROGRAM_FOLDER_H_
 
-#include "platform/platform.h"
+#include "forms/platform.h"
 
 namespace survey {
 

@@ -21,7 +21,7 @@ void Control::Reset() {
 bool Control::TakesInput() const { return form_.loaded() && Visible && Enabled; }
 
 void Control::Dispatch(const char* event, const std::function<void()>& handler) const {
-  form_.forms().Dispatch(form_, [&] {
+  form_.host().Dispatch(form_, [&] {
     form_.routine_ = name_ + "_" + event;
     handler();
   });

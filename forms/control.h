@@ -13,7 +13,7 @@ inline constexpr int kNoIndex = -1;
 
 // A control of a form, named as on the form. It registers itself with the form, which must
 // outlive it. Its fields are code's side; what a user does goes through the methods under "The
-// user's side" of each kind, which run the form's handler as one user action (Forms::Dispatch)
+// user's side" of each kind, which run the form's handler as one user action (FormHost::Dispatch)
 // and do nothing on a control that is hidden or disabled.
 class Control {
  public:

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {
@@ -70,7 +70,7 @@ ControlTotals::ControlTotals(Form& page, const char* advice_name)
 
 void ControlTotals::Fill() {
   for (const Box& box : boxes_) {
-    box.text_box->Text = NumberText(page_.forms().survey().ControlTotal(box.row->code));
+    box.text_box->Text = NumberText(page_.host().survey().ControlTotal(box.row->code));
   }
 }
 

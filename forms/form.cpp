@@ -2,16 +2,13 @@
 
 #include <stdexcept>
 
+#include "base/text.h"
 #include "forms/page_chain.h"
-#include "store/text.h"
 
 namespace survey {
 
-Form::Form(Forms& forms, std::string name, std::string caption)
-    : Caption(caption),
-      forms_(forms),
-      name_(std::move(name)),
-      design_caption_(std::move(caption)) {}
+Form::Form(FormHost& host, std::string name, std::string caption)
+    : Caption(caption), host_(host), name_(std::move(name)), design_caption_(std::move(caption)) {}
 
 Control& Form::FindControl(std::string_view name, int index) const {
   for (Control* control : controls_) {
@@ -36,7 +33,7 @@ void Form::Load() {
 
 void Form::OnUntrappedFailure(const RunTimeError& failure) {
   boxes().PlainBox("Run-time error '" + NumberText(failure.number()) + "':\n\n" + failure.what());
-  forms_.UnloadAll();
+  host_.UnloadAll();
 }
 
 void Form::ReportUntrapped(const RunTimeError& failure) {
@@ -46,21 +43,21 @@ void Form::ReportUntrapped(const RunTimeError& failure) {
 void Form::FollowLink(const Button& button, const Button* cmdSave) {
   const Link* link = FindLink(name_, button.name());
   if (link == nullptr) throw std::out_of_range(name_ + " has no link at " + button.name());
-  if (link->guard == Guard::kConfirmUnsaved && !forms_.ConfirmUnsaved(*cmdSave, *this)) return;
+  if (link->guard == Guard::kConfirmUnsaved && !host_.ConfirmUnsaved(*cmdSave, *this)) return;
   const std::string target(link->target);
-  if (link->passes != Passes::kNothing) forms_.Get(target).EducatorId = EducatorId;
+  if (link->passes != Passes::kNothing) host_.Get(target).EducatorId = EducatorId;
   if (link->passes == Passes::kEducatorIdAndEmisNumber) {
-    forms_.Get(target).EmisNumber = EmisNumber;
+    host_.Get(target).EmisNumber = EmisNumber;
   }
   const bool unload_first = link->leaving == Leaving::kUnloadThenShow;
-  if (unload_first) forms_.Unload(*this);
-  if (link->leaving != Leaving::kUnloadOnly) forms_.Show(target);
-  if (!unload_first && link->leaving != Leaving::kStays) forms_.Unload(*this);
+  if (unload_first) host_.Unload(*this);
+  if (link->leaving != Leaving::kUnloadOnly) host_.Show(target);
+  if (!unload_first && link->leaving != Leaving::kStays) host_.Unload(*this);
 }
 
 bool Form::Trap(const ErrorName& name, const std::function<void()>& body, Commit commit) {
   return Try(body, commit, [&](const RunTimeError& failure) {
-    if (forms_.IsUnseenWork()) throw RunTimeError(failure);
+    if (host_.IsOffScreenWork()) throw RunTimeError(failure);
     boxes().ReportError(name.location, failure.what(), name.procedure, failure.number());
   });
 }

@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/controls.h"
-#include "forms/forms.h"
+#include "base/run_time_error.h"
+#include "forms/control_kinds.h"
+#include "forms/form_host.h"
 #include "forms/layout.h"
-#include "store/run_time_error.h"
 
 namespace survey {
 
@@ -27,10 +27,10 @@ enum class Commit {
 
 // A window of the program. One instance a run, made on first use; it outlives its unloading, its
 // public properties with it, while its controls return to their design at each load. Those that
-// Forms::Unseen makes besides go with the work.
+// FormHost::RunOffScreen makes besides go with the work.
 class Form {
  public:
-  Form(Forms& forms, std::string name, std::string caption);
+  Form(FormHost& host, std::string name, std::string caption);
   virtual ~Form() = default;
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -60,7 +60,7 @@ class Form {
   // The control that code gave the focus to since the view last asked; null for none.
   Control* TakeFocusRequest();
 
-  Forms& forms() const { return forms_; }
+  FormHost& host() const { return host_; }
 
  protected:
   virtual void Form_Load() {}
@@ -72,11 +72,11 @@ class Form {
   // under the form's own name and its routine's, "cmdSave_Click" or "Form_Activate".
   void ReportUntrapped(const RunTimeError& failure);
 
-  Survey& survey() const { return forms_.survey(); }
-  MessageBoxes& boxes() const { return forms_.boxes(); }
+  Survey& survey() const { return host_.survey(); }
+  MessageBoxes& boxes() const { return host_.boxes(); }
 
   // Runs `body` and commits what it wrote; a failure of either is reported under `name`, and
-  // the handler goes on behind it. False after a failure. Throws it in Forms::Unseen.
+  // the handler goes on behind it. False after a failure. Throws it in FormHost::RunOffScreen.
   bool Trap(const ErrorName& name, const std::function<void()>& body,
             Commit commit = Commit::kAtEnd);
   // The same without a word.
@@ -88,14 +88,14 @@ class Form {
 
  private:
   friend class Control;
-  friend class Forms;
+  friend class FormHost;
 
   bool Try(const std::function<void()>& body, Commit commit,
            const std::function<void(const RunTimeError&)>& tell);
   Control& FindControl(std::string_view name, int index) const;
   void Load();
 
-  Forms& forms_;
+  FormHost& host_;
   std::string name_;
   std::string design_caption_;
   std::vector<Control*> controls_;

@@ -1,6 +1,6 @@
 #include "forms/layout.h"
 
-#include "forms/controls.h"
+#include "forms/control_kinds.h"
 
 namespace survey {
 

@@ -1,6 +1,6 @@
 #include "forms/message_boxes.h"
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {

@@ -4,9 +4,9 @@
 
 namespace survey {
 
-SurveyPage::SurveyPage(Forms& forms, std::string name, std::string title,
+SurveyPage::SurveyPage(FormHost& host, std::string name, std::string title,
                        const PageCaptions& captions)
-    : Form(forms, std::move(name), title),
+    : Form(host, std::move(name), title),
       cmdNext(*this, "cmdNext", captions.next),
       title_(std::move(title)),
       rules_(RulesOf(this->name())) {
@@ -18,7 +18,7 @@ SurveyPage::SurveyPage(Forms& forms, std::string name, std::string title,
   cmdSave.on_click = [this] { Save(); };
   cmdPrintPage.on_click = [this] {
     Trap(rules_.print, [this] {
-      this->forms().platform().printer.ShowPrinter();
+      this->host().platform().printer.ShowPrinter();
       Printpage();
     });
   };
@@ -39,7 +39,7 @@ void SurveyPage::Form_Activate() {
 void SurveyPage::Printpage() {
   const PagePrint& page = PrintOf(name());
   PrintPage(
-      forms().platform().printer, page, HeadLine(page.head, survey().CampusEmisNumber, EducatorId),
+      host().platform().printer, page, HeadLine(page.head, survey().CampusEmisNumber, EducatorId),
       [this](std::string_view grid, int index) -> const Grid& { return Find<Grid>(grid, index); });
 }
 

@@ -23,7 +23,8 @@ struct PageCaptions {
 class SurveyPage : public Form {
  public:
   // `title` is handed to SurveyCaption at each load.
-  SurveyPage(Forms& forms, std::string name, std::string title, const PageCaptions& captions = {});
+  SurveyPage(FormHost& host, std::string name, std::string title,
+             const PageCaptions& captions = {});
 
   // Fills the page from the store, under the page's trap.
   void Form_Activate() override;

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <cmath>
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {

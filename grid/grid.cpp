@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/text.h"
 #include "grid/cell_entry.h"
-#include "store/text.h"
 
 namespace survey {
 

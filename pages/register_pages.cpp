@@ -29,33 +29,33 @@
 
 namespace survey {
 
-void RegisterPages(Forms& forms) {
-  forms.Register<FrmPage2>("frmPage2");
-  forms.Register<FrmHostels>("frmHostels");
-  forms.Register<FrmPage4>("frmPage4");
-  forms.Register<FrmStudentTotal>("frmStudentTotal");
-  forms.Register<FrmPage3>("frmPage3");
-  forms.Register<FrmPage5>("frmPage5");
-  forms.Register<FrmPage6_1>("frmPage6_1");
-  forms.Register<FrmPage8>("frmPage8");
-  forms.Register<FrmPage9>("frmPage9");
-  forms.Register<FrmPage9_1>("frmPage9_1");
-  forms.Register<FrmOtherProgrammes>("frmOtherProgrammes");
-  forms.Register<FrmPage12_1>("frmPage12_1");
-  forms.Register<FrmAddQualification>("frmAddQualification");
-  forms.Register<FrmPage12_2>("frmPage12_2");
-  forms.Register<FrmPage9_10>("frmPage9_10");
-  forms.Register<FrmPage9_10_1>("frmPage9_10_1");
-  forms.Register<FrmPage14>("frmPage14");
-  forms.Register<FrmPage13>("frmPage13");
-  forms.Register<FrmSelectEducator>("frmSelectEducator");
-  forms.Register<FrmEducatorData>("frmEducatorData");
-  forms.Register<FrmLecQualifications1>("frmLecQualifications1");
-  forms.Register<FrmLecQualifications2>("frmLecQualifications2");
-  forms.Register<FrmEducatorTeaching1>("frmEducatorTeaching1");
-  forms.Register<FrmEducatorTeaching>("frmEducatorTeaching");
-  forms.Register<FrmAddSubjects>("frmAddSubjects");
-  forms.Register<FrmEducatorTeaching2>("frmEducatorTeaching2");
+void RegisterPages(FormHost& host) {
+  host.Register<FrmPage2>("frmPage2");
+  host.Register<FrmHostels>("frmHostels");
+  host.Register<FrmPage4>("frmPage4");
+  host.Register<FrmStudentTotal>("frmStudentTotal");
+  host.Register<FrmPage3>("frmPage3");
+  host.Register<FrmPage5>("frmPage5");
+  host.Register<FrmPage6_1>("frmPage6_1");
+  host.Register<FrmPage8>("frmPage8");
+  host.Register<FrmPage9>("frmPage9");
+  host.Register<FrmPage9_1>("frmPage9_1");
+  host.Register<FrmOtherProgrammes>("frmOtherProgrammes");
+  host.Register<FrmPage12_1>("frmPage12_1");
+  host.Register<FrmAddQualification>("frmAddQualification");
+  host.Register<FrmPage12_2>("frmPage12_2");
+  host.Register<FrmPage9_10>("frmPage9_10");
+  host.Register<FrmPage9_10_1>("frmPage9_10_1");
+  host.Register<FrmPage14>("frmPage14");
+  host.Register<FrmPage13>("frmPage13");
+  host.Register<FrmSelectEducator>("frmSelectEducator");
+  host.Register<FrmEducatorData>("frmEducatorData");
+  host.Register<FrmLecQualifications1>("frmLecQualifications1");
+  host.Register<FrmLecQualifications2>("frmLecQualifications2");
+  host.Register<FrmEducatorTeaching1>("frmEducatorTeaching1");
+  host.Register<FrmEducatorTeaching>("frmEducatorTeaching");
+  host.Register<FrmAddSubjects>("frmAddSubjects");
+  host.Register<FrmEducatorTeaching2>("frmEducatorTeaching2");
 }
 
 }  // namespace survey

@@ -1,12 +1,12 @@
 #ifndef PAGES_REGISTER_PAGES_H_
 #define PAGES_REGISTER_PAGES_H_
 
-#include "forms/forms.h"
+#include "forms/form_host.h"
 
 namespace survey {
 
 // Makes the survey pages known to the host.
-void RegisterPages(Forms& forms);
+void RegisterPages(FormHost& host);
 
 }  // namespace survey
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {

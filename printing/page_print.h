@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "grid/grid.h"
-#include "platform/printer.h"
+#include "printing/printer.h"
 
 namespace survey {
 

@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {

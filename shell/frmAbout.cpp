@@ -12,9 +12,9 @@ constexpr char kDisclaimer[] =
 
 }  // namespace
 
-FrmAbout::FrmAbout(Forms& forms) : Form(forms, "frmAbout", "About Corvale Annual Survey") {
+FrmAbout::FrmAbout(FormHost& host) : Form(host, "frmAbout", "About Corvale Annual Survey") {
   lblTitle.Heading = true;
-  cmdOK.on_click = [this] { this->forms().Unload(*this); };
+  cmdOK.on_click = [this] { this->host().Unload(*this); };
   cmdSysInfo.on_click = [this] { StartSysInfo(); };
 }
 
@@ -26,7 +26,7 @@ Layout FrmAbout::Arrange() {
 void FrmAbout::Form_Load() { lblDisclaimer.Caption = kDisclaimer; }
 
 void FrmAbout::StartSysInfo() {
-  if (forms().platform().program_folder.StartSystemInformation()) return;
+  if (host().platform().program_folder.StartSystemInformation()) return;
   boxes().PlainBox("System Information Is Unavailable At This Time");
 }
 

@@ -8,7 +8,7 @@ namespace survey {
 // Name, version and disclaimer of the program. Modal.
 class FrmAbout : public Form {
  public:
-  explicit FrmAbout(Forms& forms);
+  explicit FrmAbout(FormHost& host);
   Layout Arrange() override;
 
   Label lblTitle{*this, "lblTitle", " Corvale (Corvale) Annual Survey Utility 2012 "};

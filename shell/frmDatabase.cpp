@@ -1,14 +1,14 @@
 #include "shell/frmDatabase.h"
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 
-FrmDatabase::FrmDatabase(Forms& forms)
-    : Form(forms, "frmDatabase", "Create New Database"),
-      data_folder_(forms.platform().program_folder.Path()) {
+FrmDatabase::FrmDatabase(FormHost& host)
+    : Form(host, "frmDatabase", "Create New Database"),
+      data_folder_(host.platform().program_folder.Path()) {
   cmdOk.on_click = [this] { Ok(); };
-  cmdCancel.on_click = [this] { this->forms().UnloadAll(); };
+  cmdCancel.on_click = [this] { this->host().UnloadAll(); };
 }
 
 Layout FrmDatabase::Arrange() {
@@ -38,8 +38,8 @@ void FrmDatabase::Ok() {
   data_folder_.CopyTemplate(name);
   survey().DatabaseName = name;
   survey().DatabasePath = data_folder_.PathOf(name);
-  forms().Unload(*this);
-  forms().Unload(forms().Get("frmSelectDatabase"));
+  host().Unload(*this);
+  host().Unload(host().Get("frmSelectDatabase"));
 }
 
 }  // namespace survey

@@ -9,7 +9,7 @@ namespace survey {
 // Asks the name of a new database and copies the template to it. Modal.
 class FrmDatabase : public Form {
  public:
-  explicit FrmDatabase(Forms& forms);
+  explicit FrmDatabase(FormHost& host);
   Layout Arrange() override;
 
   Frame fraName{*this, "fraName", "Enter the database name."};

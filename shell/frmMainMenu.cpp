@@ -1,8 +1,8 @@
 #include "shell/frmMainMenu.h"
 
+#include "base/text.h"
 #include "forms/survey_page.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -48,7 +48,7 @@ constexpr ErrorName kPrintRoutine = {"frmMainMenu", "Print Routine"};
 
 }  // namespace
 
-FrmMainMenu::FrmMainMenu(Forms& forms) : Form(forms, "frmMainMenu", "Main Menu") {
+FrmMainMenu::FrmMainMenu(FormHost& host) : Form(host, "frmMainMenu", "Main Menu") {
   txtColEmis.Locked = txtCamEmis.Locked = true;
 
   optHO.on_click = [this] { ChooseSiteType(); };
@@ -73,8 +73,8 @@ FrmMainMenu::FrmMainMenu(Forms& forms) : Form(forms, "frmMainMenu", "Main Menu")
     cmdLearner.back()->on_click = [this, page = row.page] { Open(page); };
   }
   cmdList.on_click = [this] { Open("frmSelectCollege"); };
-  cmdDisclaimer.on_click = [this] { this->forms().ShowModal("frmAbout"); };
-  cmdExit.on_click = [this] { this->forms().UnloadAll(); };
+  cmdDisclaimer.on_click = [this] { this->host().ShowModal("frmAbout"); };
+  cmdExit.on_click = [this] { this->host().UnloadAll(); };
 }
 
 Layout FrmMainMenu::Arrange() {
@@ -273,8 +273,8 @@ bool FrmMainMenu::ValidateSite() {
 // ---- The menu --------------------------------------------------------------------------------
 
 void FrmMainMenu::Open(const std::string& target) {
-  forms().Show(target);
-  forms().Unload(*this);
+  host().Show(target);
+  host().Unload(*this);
 }
 
 void FrmMainMenu::OpenForSite(const std::string& target) {
@@ -284,16 +284,16 @@ void FrmMainMenu::OpenForSite(const std::string& target) {
 // ---- The printed survey ----------------------------------------------------------------------
 
 void FrmMainMenu::PrintSurvey() {
-  forms().platform().printer.ShowPrinter();
+  host().platform().printer.ShowPrinter();
   survey().CampusEmisNumber = LeadingNumber(txtCamEmis.Text);
   survey().CollegeEmisNumber = LeadingNumber(txtColEmis.Text);
   survey().SurveyYear = kPrintedYear;
-  const auto progress = forms().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
+  const auto progress = host().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
   constexpr int kPages = std::size(kPrintedPages);
   for (int done = 0; done < kPages; ++done) {
     const std::string what = "Page " + std::to_string(done + 1) + " of " + std::to_string(kPages);
     if (!progress->Step(done, kPages, what)) return;
-    forms().Unseen(kPrintedPages[done], [](Form& form) {
+    host().RunOffScreen(kPrintedPages[done], [](Form& form) {
       form.Form_Activate();
       dynamic_cast<SurveyPage&>(form).Printpage();
     });

@@ -13,7 +13,7 @@ namespace survey {
 // Frame4) leads to the sections of the survey; EditMode tells which is seen.
 class FrmMainMenu : public Form {
  public:
-  explicit FrmMainMenu(Forms& forms);
+  explicit FrmMainMenu(FormHost& host);
   Layout Arrange() override;
   void Form_Activate() override;
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "base/text.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -24,16 +24,16 @@ const GridDesign& SiteListDesign() {
 
 }  // namespace
 
-FrmSelectCollege::FrmSelectCollege(Forms& forms)
-    : Form(forms, "frmSelectCollege", "Select college or campus to add data"),
+FrmSelectCollege::FrmSelectCollege(FormHost& host)
+    : Form(host, "frmSelectCollege", "Select college or campus to add data"),
       gridcollege(*this, "gridcollege", SiteListDesign()) {
   cmdContinue.on_click = [this] { Continue(); };
   cmdAdd.on_click = [this] {
-    this->forms().Get("frmMainMenu").EditMode = "Add";
-    this->forms().Show("frmMainMenu");
-    this->forms().Unload(*this);
+    this->host().Get("frmMainMenu").EditMode = "Add";
+    this->host().Show("frmMainMenu");
+    this->host().Unload(*this);
   };
-  cmdExit.on_click = [this] { this->forms().UnloadAll(); };
+  cmdExit.on_click = [this] { this->host().UnloadAll(); };
 }
 
 Layout FrmSelectCollege::Arrange() {
@@ -80,9 +80,9 @@ void FrmSelectCollege::Continue() {
   }
   survey().CampusEmisNumber = LeadingNumber(campus);
   survey().CollegeEmisNumber = LeadingNumber(college);
-  forms().Get("frmMainMenu").EditMode = "Edit";
-  forms().Show("frmMainMenu");
-  forms().Unload(*this);
+  host().Get("frmMainMenu").EditMode = "Edit";
+  host().Show("frmMainMenu");
+  host().Unload(*this);
 }
 
 }  // namespace survey

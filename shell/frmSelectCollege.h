@@ -8,7 +8,7 @@ namespace survey {
 // Lists the sites that were started in this database.
 class FrmSelectCollege : public Form {
  public:
-  explicit FrmSelectCollege(Forms& forms);
+  explicit FrmSelectCollege(FormHost& host);
   Layout Arrange() override;
 
   Label lblSelect{*this, "lblSelect",

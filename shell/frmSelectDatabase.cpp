@@ -14,9 +14,9 @@ constexpr ErrorName kContinueError = {"frmSelectDatabase", "Continue"};
 
 }  // namespace
 
-FrmSelectDatabase::FrmSelectDatabase(Forms& forms)
-    : Form(forms, "frmSelectDatabase", "Corvale Annual Survey 2012 (Ostrel)"),
-      data_folder_(forms.platform().program_folder.Path()) {
+FrmSelectDatabase::FrmSelectDatabase(FormHost& host)
+    : Form(host, "frmSelectDatabase", "Corvale Annual Survey 2012 (Ostrel)"),
+      data_folder_(host.platform().program_folder.Path()) {
   lblTitle.Heading = true;
   chkExisting.on_click = [this] {
     if (chkExisting.Value()) ChooseExisting();
@@ -29,8 +29,8 @@ FrmSelectDatabase::FrmSelectDatabase(Forms& forms)
   };
   cmdBrowse.on_click = [this] { Browse(); };
   cmdContinue.on_click = [this] { Trap(kContinueError, [this] { Continue(); }); };
-  cmdAbout.on_click = [this] { this->forms().ShowModal("frmAbout"); };
-  cmdExit.on_click = [this] { this->forms().UnloadAll(); };
+  cmdAbout.on_click = [this] { this->host().ShowModal("frmAbout"); };
+  cmdExit.on_click = [this] { this->host().UnloadAll(); };
 }
 
 Layout FrmSelectDatabase::Arrange() {
@@ -57,14 +57,14 @@ void FrmSelectDatabase::ListDatabases() {
 }
 
 void FrmSelectDatabase::GetRegistry() {
-  txtpath.Text = forms().platform().settings.Get(kApplication, kSection, kKey);
+  txtpath.Text = host().platform().settings.Get(kApplication, kSection, kKey);
 }
 
 void FrmSelectDatabase::SaveRegistry() {
   // The second write replaces the first: only a path that was typed or browsed is remembered.
-  const std::filesystem::path folder = forms().platform().program_folder.Path();
+  const std::filesystem::path folder = host().platform().program_folder.Path();
   const std::u8string first = (folder / "CorvaleAnnualOstrel.mdb").u8string();
-  Settings& settings = forms().platform().settings;
+  Settings& settings = host().platform().settings;
   settings.Save(kApplication, kSection, kKey, {first.begin(), first.end()});
   settings.Save(kApplication, kSection, kKey, remembered_path_);
 }
@@ -133,7 +133,7 @@ void FrmSelectDatabase::ChooseNetwork() {
 }
 
 void FrmSelectDatabase::Browse() {
-  const std::string path = forms().platform().dialogs.OpenFile("Database Files (*.mdb)|*.mdb");
+  const std::string path = host().platform().dialogs.OpenFile("Database Files (*.mdb)|*.mdb");
   survey().DatabasePath = path;
   txtpath.Text = path;
   if (path.empty() || IsCorrectDatabase()) return;
@@ -163,8 +163,8 @@ void FrmSelectDatabase::Continue() {
   remembered_path_.clear();  // a path that was refused before is not what is chosen now
   if (chkNew.Value()) {
     // The choice goes on here when frmDatabase has made the file, or was given up.
-    forms().Unload(*this);
-    forms().ShowModal("frmDatabase");
+    host().Unload(*this);
+    host().ShowModal("frmDatabase");
   } else if (chkExisting.Value()) {
     if (!ContinueWithExisting()) return;
   } else if (chNetwork.Value()) {
@@ -176,8 +176,8 @@ void FrmSelectDatabase::Continue() {
     return;
   }
   SaveRegistry();
-  forms().Show("frmSelectCollege");
-  forms().Unload(*this);
+  host().Show("frmSelectCollege");
+  host().Unload(*this);
 }
 
 }  // namespace survey

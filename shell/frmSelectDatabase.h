@@ -12,7 +12,7 @@ namespace survey {
 // anywhere else.
 class FrmSelectDatabase : public Form {
  public:
-  explicit FrmSelectDatabase(Forms& forms);
+  explicit FrmSelectDatabase(FormHost& host);
   Layout Arrange() override;
 
   Label lblTitle{*this, "lblTitle", "Corvale Annual Survey 2012 (Ostrel)"};

@@ -8,12 +8,12 @@
 
 namespace survey {
 
-void RegisterShell(Forms& forms) {
-  forms.Register<FrmSelectDatabase>("frmSelectDatabase");
-  forms.Register<FrmDatabase>("frmDatabase");
-  forms.Register<FrmSelectCollege>("frmSelectCollege");
-  forms.Register<FrmMainMenu>("frmMainMenu");
-  forms.Register<FrmAbout>("frmAbout");
+void RegisterShell(FormHost& host) {
+  host.Register<FrmSelectDatabase>("frmSelectDatabase");
+  host.Register<FrmDatabase>("frmDatabase");
+  host.Register<FrmSelectCollege>("frmSelectCollege");
+  host.Register<FrmMainMenu>("frmMainMenu");
+  host.Register<FrmAbout>("frmAbout");
 }
 
 }  // namespace survey

@@ -1,12 +1,12 @@
 #ifndef SHELL_REGISTER_SHELL_H_
 #define SHELL_REGISTER_SHELL_H_
 
-#include "forms/forms.h"
+#include "forms/form_host.h"
 
 namespace survey {
 
 // Makes the forms around the survey pages known to the host.
-void RegisterShell(Forms& forms);
+void RegisterShell(FormHost& host);
 
 }  // namespace survey
 

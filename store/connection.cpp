@@ -8,9 +8,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "base/run_time_error.h"
+#include "base/text.h"
 #include "store/dialect.h"
-#include "store/run_time_error.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {

@@ -5,8 +5,8 @@
 #include <chrono>
 #include <cstddef>
 
-#include "store/run_time_error.h"
-#include "store/text.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {
@@ -68,6 +68,12 @@ std::string_view QuotedPiece(std::string_view text, char closing) {
 char ClosingQuote(char opening) { return opening == '[' ? ']' : opening; }
 
 }  // namespace
+
+std::string SqlEscape(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) escaped.append(c == '\'' ? 2 : 1, c);
+  return escaped;
+}
 
 std::string ToEngineSql(std::string_view statement) {
   std::string sql;

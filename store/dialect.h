@@ -6,6 +6,9 @@
 
 namespace survey {
 
+// `text` with every single quote doubled, ready to stand between single quotes in a statement.
+std::string SqlEscape(std::string_view text);
+
 // Turns one of the survey's statements into the engine's SQL, token by token and never inside
 // quotes:
 //   Delete * from t            ->  Delete from t

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-#include "store/run_time_error.h"
-#include "store/text.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {

@@ -1,8 +1,8 @@
 #include "store/survey.h"
 
+#include "base/run_time_error.h"
+#include "base/text.h"
 #include "store/recordset.h"
-#include "store/run_time_error.h"
-#include "store/text.h"
 
 namespace survey {
 

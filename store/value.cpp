@@ -2,8 +2,8 @@
 
 #include <charconv>
 
-#include "store/run_time_error.h"
-#include "store/text.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
 
 namespace survey {
 

@@ -6,8 +6,8 @@
 #include <numeric>
 #include <stdexcept>
 
+#include "base/text.h"
 #include "forms/form.h"
-#include "store/text.h"
 
 namespace survey::testing {
 namespace {
@@ -246,22 +246,22 @@ constexpr PageFilling kFillings[] = {
 
 // Shows the page over what is on screen, fills it and closes it again; with nothing beneath it
 // stays.
-FilledPage ShowAndFill(Forms& forms, const std::string& name, Figures& figures) {
-  Form* const beneath = forms.Front();
+FilledPage ShowAndFill(FormHost& host, const std::string& name, Figures& figures) {
+  Form* const beneath = host.Front();
   if (beneath == nullptr) {
-    forms.Start(name);
+    host.Start(name);
   } else {
-    forms.Dispatch(*beneath, [&] { forms.Show(name); });
+    host.Dispatch(*beneath, [&] { host.Show(name); });
   }
-  FilledPage filled = FillPage(forms.Get(name), figures);
-  if (beneath != nullptr) forms.CloseBox(forms.Get(name));
+  FilledPage filled = FillPage(host.Get(name), figures);
+  if (beneath != nullptr) host.CloseBox(host.Get(name));
   return filled;
 }
 
 template <typename Pages>
-std::vector<FilledPage> FillPages(Forms& forms, const Pages& pages, Figures& figures) {
+std::vector<FilledPage> FillPages(FormHost& host, const Pages& pages, Figures& figures) {
   std::vector<FilledPage> filled;
-  for (const char* name : pages) filled.push_back(ShowAndFill(forms, name, figures));
+  for (const char* name : pages) filled.push_back(ShowAndFill(host, name, figures));
   return filled;
 }
 
@@ -338,23 +338,23 @@ FilledPage FillPage(Form& page, Figures& figures) {
   return filled;
 }
 
-std::vector<FilledPage> FillCampus(Forms& forms, Figures& figures) {
-  return FillPages(forms, kCampusPages, figures);
+std::vector<FilledPage> FillCampus(FormHost& host, Figures& figures) {
+  return FillPages(host, kCampusPages, figures);
 }
 
-std::vector<FilledPage> FillStaffMember(Forms& forms, const std::string& id, Figures& figures) {
+std::vector<FilledPage> FillStaffMember(FormHost& host, const std::string& id, Figures& figures) {
   for (const char* page : kStaffPages) {
-    forms.Get(page).EducatorId = id;
-    forms.Get(page).EmisNumber = forms.survey().CollegeEmisNumber;
+    host.Get(page).EducatorId = id;
+    host.Get(page).EmisNumber = host.survey().CollegeEmisNumber;
   }
-  forms.Get("frmEducatorData").FormMode = "New";
-  return FillPages(forms, kStaffPages, figures);
+  host.Get("frmEducatorData").FormMode = "New";
+  return FillPages(host, kStaffPages, figures);
 }
 
-std::vector<std::string> ReadAgain(Forms& forms, const FilledPage& filled,
+std::vector<std::string> ReadAgain(FormHost& host, const FilledPage& filled,
                                    const std::vector<PrintedGrid>& grids, const std::string& id) {
   std::vector<std::string> texts;
-  forms.Unseen(filled.page, [&](Form& page) {
+  host.RunOffScreen(filled.page, [&](Form& page) {
     page.EducatorId = id;
     page.FormMode = "Edit";
     page.Form_Activate();
@@ -372,9 +372,9 @@ std::vector<std::string> ReadAgain(Forms& forms, const FilledPage& filled,
   return texts;
 }
 
-void AddStaff(Forms& forms, int members, Figures& figures) {
-  FillStaffMember(forms, StaffId(1), figures);
-  CopyRecords(*forms.survey().DatabaseConnection, kStaffTables, "IDNumber = '" + StaffId(1) + "'",
+void AddStaff(FormHost& host, int members, Figures& figures) {
+  FillStaffMember(host, StaffId(1), figures);
+  CopyRecords(*host.survey().DatabaseConnection, kStaffTables, "IDNumber = '" + StaffId(1) + "'",
               members - 1, [](const std::string& table, int copy) {
                 const std::string id = "IDNumber = '" + StaffId(copy + 1) + "'";
                 if (table != "tbl_StaffDetail") return id;
@@ -382,8 +382,8 @@ void AddStaff(Forms& forms, int members, Figures& figures) {
               });
 }
 
-void AddSites(Forms& forms, int sites) {
-  const Survey& survey = forms.survey();
+void AddSites(FormHost& host, int sites) {
+  const Survey& survey = host.survey();
   CopyRecords(*survey.DatabaseConnection, kCampusTables,
               "CollegeEmisNumber = " + NumberText(survey.CollegeEmisNumber) +
                   " and CampusEmisNumber = " + NumberText(survey.CampusEmisNumber),

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/forms.h"
+#include "forms/form_host.h"
 #include "printing/page_print.h"
 
 namespace survey::testing {
@@ -66,25 +66,25 @@ FilledPage FillPage(Form& page, Figures& figures);
 // The pages of the campus in the order of the survey, under the context's site and year; what is
 // on screen stays beneath, the first page where that is nothing. The site must be one of the
 // template's for frmPage2 to be stored.
-std::vector<FilledPage> FillCampus(Forms& forms, Figures& figures);
+std::vector<FilledPage> FillCampus(FormHost& host, Figures& figures);
 
 // The six pages of a new staff member.
-std::vector<FilledPage> FillStaffMember(Forms& forms, const std::string& id, Figures& figures);
+std::vector<FilledPage> FillStaffMember(FormHost& host, const std::string& id, Figures& figures);
 
 // Reads a filled page anew from the store, unseen; `id` is the staff member's whom it tells of.
 // Answers what these grids of it show: the texts that were entered, without ticks, and the totals.
 // Throws std::runtime_error where a cell does not show what was entered in it, but for
 // the answers that the survey has never shown again.
-std::vector<std::string> ReadAgain(Forms& forms, const FilledPage& filled,
+std::vector<std::string> ReadAgain(FormHost& host, const FilledPage& filled,
                                    const std::vector<PrintedGrid>& grids,
                                    const std::string& id = {});
 
 // As many staff members, with IDs from "7001010001" on: the first entered on the pages, the others
 // copied from him or her in the store under IDs and surnames of their own. Nothing may be unsaved.
-void AddStaff(Forms& forms, int members, Figures& figures);
+void AddStaff(FormHost& host, int members, Figures& figures);
 
 // As many other sites that hold what the context's site holds of its campus, copied in the store.
-void AddSites(Forms& forms, int sites);
+void AddSites(FormHost& host, int sites);
 
 }  // namespace survey::testing
 

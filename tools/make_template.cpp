@@ -4,8 +4,8 @@
 #include <exception>
 #include <iostream>
 
-#include "store/survey_lists.h"
-#include "store/template.h"
+#include "template/survey_lists.h"
+#include "template/template.h"
 
 namespace {
 

@@ -81,12 +81,12 @@ class Tour {
  public:
   Tour(fs::path output, const DesktopPlaces& places)
       : output_(std::move(output)), desktop_(places), driver_(desktop_) {
-    RegisterShell(desktop_.forms());
-    RegisterPages(desktop_.forms());
+    RegisterShell(desktop_.host());
+    RegisterPages(desktop_.host());
     desktop_.view().window().resize(kPictureSize);
     QObject::connect(&desktop_.view(), &DesktopView::Ended, qApp, [this] { ended_ = true; });
     Say("The program starts");
-    desktop_.forms().Start("frmSelectDatabase");
+    desktop_.host().Start("frmSelectDatabase");
     driver_.ExpectFront("frmSelectDatabase");
   }
 
@@ -231,7 +231,7 @@ void Tour::LeaveAndReturn() {
 
 void Tour::ShowBoxes() {
   Say("The other boxes");
-  MessageBoxes& boxes = desktop_.forms().boxes();
+  MessageBoxes& boxes = desktop_.host().boxes();
   const auto picture = [this](const std::string& name) {
     return [this, name](QMessageBox& box) { Save(box, name); };
   };
@@ -299,7 +299,7 @@ int SheetsIn(const fs::path& file) {
 void Tour::PrintTo(const std::string& name, const std::string& button, int sheets) {
   const fs::path file = output_ / (name + ".pdf");
   fs::remove(file);
-  auto& printer = dynamic_cast<QtPrinter&>(desktop_.forms().platform().printer);
+  auto& printer = dynamic_cast<QtPrinter&>(desktop_.host().platform().printer);
   printer.PrintToFile(QString::fromStdString(file.string()));
   driver_.Click(button);
   Expect(SheetsIn(file) == sheets, file.string() + " has " + std::to_string(sheets) + " sheets");
@@ -318,7 +318,7 @@ void Tour::PrintStaff() {
   driver_.ExpectFront("frmSelectEducator");
   testing::Figures figures(1, 40);
   for (const char* id : {"7405125083086", "8111300114089"}) {
-    testing::FillStaffMember(desktop_.forms(), id, figures);
+    testing::FillStaffMember(desktop_.host(), id, figures);
   }
   driver_.ClickCell("gridEducator", 1, 1);
   SaveFront("19-staff");
@@ -332,10 +332,10 @@ void Tour::PrintSurvey() {
   Say("Every page is filled in for the year that the menu prints, and the survey printed");
   desktop_.survey().SurveyYear = 2010;
   testing::Figures figures(11, 190);
-  const auto filled = testing::FillCampus(desktop_.forms(), figures);
+  const auto filled = testing::FillCampus(desktop_.host(), figures);
   driver_.ExpectFront("frmMainMenu");
   for (const testing::FilledPage& page : filled) {
-    testing::ReadAgain(desktop_.forms(), page, PrintOf(page.page).grids);
+    testing::ReadAgain(desktop_.host(), page, PrintOf(page.page).grids);
   }
   PrintTo("22-survey", "cmdPrintSurvey", 16);
 }

@@ -4,9 +4,9 @@
 
 #include <system_error>
 
-#include "store/survey_lists.h"
-#include "store/template.h"
-#include "store/text.h"
+#include "base/text.h"
+#include "template/survey_lists.h"
+#include "template/template.h"
 
 namespace survey::testing {
 namespace {
@@ -126,10 +126,10 @@ int FakePrinter::OwnerPrintPageCount(const Grid& grid, double left, double top, 
   return pages;
 }
 
-World::World() : forms(survey, {dialogs, printer, settings, program_folder}) {
+World::World() : host(survey, {dialogs, printer, settings, program_folder}) {
   program_folder.path = folder.path();
   fs::copy_file(TemplateFile(), folder.path() / "CorvaleAnnualOstrel2012.mdb");
-  forms.set_view(this);
+  host.set_view(this);
   survey.set_statement_observer(
       [this](std::string_view statement) { statements.emplace_back(statement); });
 }
@@ -140,10 +140,10 @@ void World::RunModal(Form& form) {
     modal_scripts.pop_front();
     script(form);
   }
-  if (form.loaded()) forms.CloseBox(form);
+  if (form.loaded()) host.CloseBox(form);
 }
 
-std::string World::Front() const { return forms.Front() == nullptr ? "" : forms.Front()->name(); }
+std::string World::Front() const { return host.Front() == nullptr ? "" : host.Front()->name(); }
 
 std::string World::LastBox() {
   const std::string text = dialogs.seen.empty() ? "" : dialogs.seen.back().prompt;

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "forms/forms.h"
+#include "forms/form_host.h"
 #include "store/recordset.h"
 
 namespace survey::testing {
@@ -99,7 +99,7 @@ class World : public FormsView {
 
   template <typename Kind>
   Kind& The(const std::string& form, std::string_view control, int index = kNoIndex) {
-    return forms.Get(form).Find<Kind>(control, index);
+    return host.Get(form).Find<Kind>(control, index);
   }
   void Click(const std::string& form, std::string_view button, int index = kNoIndex) {
     The<Button>(form, button, index).Click();
@@ -120,7 +120,7 @@ class World : public FormsView {
   FakeSettings settings;
   FakeProgramFolder program_folder;
   Survey survey;
-  Forms forms;
+  FormHost host;
   std::deque<std::function<void(Form&)>> modal_scripts;
   std::vector<std::string> statements;  // as the program gave them
 };

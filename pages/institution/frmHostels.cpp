@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <string_view>
 
-#include "forms/record_cells.h"
+#include "base/text.h"
 #include "pages/institution/street.h"
-#include "store/text.h"
+#include "records/record_cells.h"
+#include "store/dialect.h"
 
 namespace survey {
 namespace {
@@ -192,8 +193,8 @@ std::string OfThisSite(const Survey& survey) {
 
 }  // namespace
 
-FrmHostels::FrmHostels(Forms& forms)
-    : SurveyPage(forms, "frmHostels", "Hostel Accommodation"),
+FrmHostels::FrmHostels(FormHost& host)
+    : SurveyPage(host, "frmHostels", "Hostel Accommodation"),
       gridGeneralInfo(*this, "gridGeneralInfo", HostelDesign()),
       gridhostels(*this, "gridhostels", HostelListDesign()),
       gridSETA(*this, "gridSETA", SetaDesign()) {

@@ -12,7 +12,7 @@ namespace survey {
 // and it does not tell of unsaved hostel details. A failing statement ends the program.
 class FrmHostels : public SurveyPage {
  public:
-  explicit FrmHostels(Forms& forms);
+  explicit FrmHostels(FormHost& host);
 
   void Form_Activate() override;
 

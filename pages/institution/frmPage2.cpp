@@ -1,8 +1,8 @@
 #include "pages/institution/frmPage2.h"
 
-#include "forms/record_cells.h"
+#include "base/text.h"
 #include "pages/institution/street.h"
-#include "store/text.h"
+#include "records/record_cells.h"
 
 namespace survey {
 namespace {
@@ -239,8 +239,8 @@ const std::vector<StatementPiece> kUpdate = {
 
 }  // namespace
 
-FrmPage2::FrmPage2(Forms& forms)
-    : SurveyPage(forms, "frmPage2", "General Information",
+FrmPage2::FrmPage2(FormHost& host)
+    : SurveyPage(host, "frmPage2", "General Information",
                  {.previous = "Main Menu", .menu = nullptr}),
       gridPage2_1(*this, "gridPage2_1", IdentityDesign()),
       gridGeneralInfo(*this, "gridGeneralInfo", QuestionsDesign()) {

@@ -1,6 +1,6 @@
 #include "pages/institution/frmPage4.h"
 
-#include "forms/cell_table.h"
+#include "records/cell_table.h"
 
 namespace survey {
 namespace {
@@ -144,8 +144,8 @@ const CellTable& LectureStaff() {
 
 }  // namespace
 
-FrmPage4::FrmPage4(Forms& forms)
-    : SurveyPage(forms, "frmPage4", "Personnel Staff Information"),
+FrmPage4::FrmPage4(FormHost& host)
+    : SurveyPage(host, "frmPage4", "Personnel Staff Information"),
       gridPage4_2(*this, "gridPage4_2", StaffDesign()),
       gridLectureStaff(*this, "gridLectureStaff", DegreeDesign()) {
   Label4.Heading = true;

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "store/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace survey {
 

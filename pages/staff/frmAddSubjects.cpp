@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "base/text.h"
+#include "store/dialect.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -52,8 +53,8 @@ void ShowSubject(const std::string& code, const std::string& name, const std::st
 
 }  // namespace
 
-FrmAddSubjects::FrmAddSubjects(Forms& forms)
-    : Form(forms, "frmAddSubjects", "Maintain Subject list"),
+FrmAddSubjects::FrmAddSubjects(FormHost& host)
+    : Form(host, "frmAddSubjects", "Maintain Subject list"),
       gridSubjectList(*this, "gridSubjectList", SubjectListDesign()) {
   // Digits and nothing else, the backspace key neither: a wrong digit is marked and typed over, or
   // goes with the delete key.
@@ -71,7 +72,7 @@ FrmAddSubjects::FrmAddSubjects(Forms& forms)
   };
   cmdSubjects.on_click = [this] { Search(); };
   cmdSaveSubject.on_click = [this] { SaveSubject(); };
-  cmdDone.on_click = [this] { this->forms().Unload(*this); };
+  cmdDone.on_click = [this] { this->host().Unload(*this); };
 }
 
 Layout FrmAddSubjects::Arrange() {

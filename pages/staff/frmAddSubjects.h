@@ -13,7 +13,7 @@ namespace survey {
 // the pages of subjects. Its mark, the yellow of cmdSaveSubject, is asked about by nobody.
 class FrmAddSubjects : public Form {
  public:
-  explicit FrmAddSubjects(Forms& forms);
+  explicit FrmAddSubjects(FormHost& host);
   Layout Arrange() override;
 
   int FormLogic = 0;     // for whoever opens the form; has no effect

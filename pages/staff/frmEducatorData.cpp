@@ -1,8 +1,9 @@
 #include "pages/staff/frmEducatorData.h"
 
-#include "forms/record_cells.h"
+#include "base/text.h"
 #include "grid/cell_entry.h"
-#include "store/text.h"
+#include "records/record_cells.h"
+#include "store/dialect.h"
 
 namespace survey {
 namespace {
@@ -250,8 +251,8 @@ bool IsMissing(const Grid& grid, const RequiredCell& required) {
 
 }  // namespace
 
-FrmEducatorData::FrmEducatorData(Forms& forms)
-    : StaffPage(forms, "frmEducatorData", "Staff Details",
+FrmEducatorData::FrmEducatorData(FormHost& host)
+    : StaffPage(host, "frmEducatorData", "Staff Details",
                 {.next = "Next", .previous = "Staff List", .menu = nullptr}),
       gridgeneral(*this, "gridgeneral", GeneralDesign()),
       gridTraining(*this, "gridTraining", TrainingDesign()) {

@@ -12,7 +12,7 @@ namespace survey {
 // does to the store does not depend on it.
 class FrmEducatorData : public StaffPage {
  public:
-  explicit FrmEducatorData(Forms& forms);
+  explicit FrmEducatorData(FormHost& host);
 
   void Form_Activate() override;
 

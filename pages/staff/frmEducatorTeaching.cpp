@@ -1,7 +1,7 @@
 #include "pages/staff/frmEducatorTeaching.h"
 
+#include "base/text.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -92,8 +92,8 @@ const SubjectList& TeachingSubjects() {
 
 }  // namespace
 
-FrmEducatorTeaching::FrmEducatorTeaching(Forms& forms)
-    : SubjectPage(forms, "frmEducatorTeaching", TeachingSubjects()),
+FrmEducatorTeaching::FrmEducatorTeaching(FormHost& host)
+    : SubjectPage(host, "frmEducatorTeaching", TeachingSubjects()),
       gridmonths(*this, "gridmonths", MonthsDesign()) {
   MarkChangesOf(gridmonths);
   gridmonths.on_check = [this](int, int) { MarkUnsaved(); };

@@ -1,7 +1,7 @@
 #include "pages/staff/frmEducatorTeaching2.h"
 
-#include "forms/record_cells.h"
-#include "store/text.h"
+#include "base/text.h"
+#include "records/record_cells.h"
 
 namespace survey {
 namespace {
@@ -102,8 +102,8 @@ void ShowFigures(const Recordset& field, int row, Grid& grid) {
 
 }  // namespace
 
-FrmEducatorTeaching2::FrmEducatorTeaching2(Forms& forms)
-    : StaffPage(forms, "frmEducatorTeaching2", "Staff Details",
+FrmEducatorTeaching2::FrmEducatorTeaching2(FormHost& host)
+    : StaffPage(host, "frmEducatorTeaching2", "Staff Details",
                 {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
       gridFields(*this, "gridFields", FieldsDesign()) {
   MarkChangesOf(gridFields);

@@ -8,7 +8,7 @@ namespace survey {
 // Qualification types 1 to 29.
 class FrmLecQualifications1 : public QualificationPage {
  public:
-  explicit FrmLecQualifications1(Forms& forms);
+  explicit FrmLecQualifications1(FormHost& host);
 
  protected:
   QualificationDetails DetailsToSave() const override { return {"", "0", 0}; }

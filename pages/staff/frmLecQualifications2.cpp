@@ -1,7 +1,8 @@
 #include "pages/staff/frmLecQualifications2.h"
 
-#include "forms/record_cells.h"
-#include "store/text.h"
+#include "base/text.h"
+#include "records/record_cells.h"
+#include "store/dialect.h"
 
 namespace survey {
 namespace {
@@ -67,8 +68,8 @@ const QualificationList& SecondHalf() {
 
 }  // namespace
 
-FrmLecQualifications2::FrmLecQualifications2(Forms& forms)
-    : QualificationPage(forms, "frmLecQualifications2",
+FrmLecQualifications2::FrmLecQualifications2(FormHost& host)
+    : QualificationPage(host, "frmLecQualifications2",
                         {.next = "Previous", .previous = nullptr, .menu = nullptr}, SecondHalf()) {
   AddLink(cmdEducatorList);
 }

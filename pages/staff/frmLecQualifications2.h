@@ -10,7 +10,7 @@ namespace survey {
 // Typing them does not set the unsaved mark.
 class FrmLecQualifications2 : public QualificationPage {
  public:
-  explicit FrmLecQualifications2(Forms& forms);
+  explicit FrmLecQualifications2(FormHost& host);
 
   Button cmdEducatorList{*this, "cmdEducatorList", "Staff List"};
 

@@ -1,7 +1,8 @@
 #include "pages/staff/frmSelectEducator.h"
 
+#include "base/text.h"
 #include "printing/staff_print.h"
-#include "store/text.h"
+#include "store/dialect.h"
 
 namespace survey {
 namespace {
@@ -51,8 +52,8 @@ constexpr IdCorrection kIdCorrections[] = {
 
 }  // namespace
 
-FrmSelectEducator::FrmSelectEducator(Forms& forms)
-    : Form(forms, "frmSelectEducator", "Staff List"),
+FrmSelectEducator::FrmSelectEducator(FormHost& host)
+    : Form(host, "frmSelectEducator", "Staff List"),
       gridEducator(*this, "gridEducator", StaffListDesign()) {
   txtNumber.Locked = true;
   cmdSpecialisation.ToolTip = "Subject Majors";
@@ -71,7 +72,7 @@ FrmSelectEducator::FrmSelectEducator(Forms& forms)
   cmdPrintSurvey.on_click = [this] { Trap(kPrintPagesRoutine, [this] { PrintPages(); }); };
   cmdPrevious.on_click = [this] { FollowLink(cmdPrevious); };
   cmdMenu.on_click = [this] {
-    this->forms().Get("frmMainMenu").EditMode = "Edit";
+    this->host().Get("frmMainMenu").EditMode = "Edit";
     FollowLink(cmdMenu);
   };
 }
@@ -136,20 +137,20 @@ void FrmSelectEducator::OpenPageOfSelected(const Button& button) {
   }
   EducatorId = *SelectedStaffId;
   EmisNumber = survey().CollegeEmisNumber;
-  if (&button == &cmdEdit) forms().Get("frmEducatorData").FormMode = "Edit";
+  if (&button == &cmdEdit) host().Get("frmEducatorData").FormMode = "Edit";
   FollowLink(button);
 }
 
 void FrmSelectEducator::AddNew() {
   const std::string id =
-      forms().platform().dialogs.InputBox("Please enter the ID number of the Staff Member", "");
+      host().platform().dialogs.InputBox("Please enter the ID number of the Staff Member", "");
   if (id.empty()) {
     boxes().UserMessage("You must enter an ID number to continue");
     return;
   }
   EducatorId = id;
   EmisNumber = survey().CollegeEmisNumber;
-  forms().Get("frmEducatorData").FormMode = StaffIdExists(id) ? "Edit" : "New";
+  host().Get("frmEducatorData").FormMode = StaffIdExists(id) ? "Edit" : "New";
   FollowLink(cmdAddNew);
 }
 
@@ -187,7 +188,7 @@ void FrmSelectEducator::UpdateID() {
     boxes().UserMessage("You must select a staff member to continue.");
     return;
   }
-  const std::string new_id = forms().platform().dialogs.InputBox(
+  const std::string new_id = host().platform().dialogs.InputBox(
       "Enter the correct ID number for " + SelectedStaffName, "Staff member: " + *SelectedStaffId);
   if (new_id.empty()) {
     boxes().UserMessage("You have not entered a new ID number for the staff member");
@@ -216,7 +217,7 @@ void FrmSelectEducator::CorrectID(const std::string& old_id, const std::string& 
 // ---- Printing --------------------------------------------------------------------------------
 
 void FrmSelectEducator::PrintPages() {
-  Printer& printer = forms().platform().printer;
+  Printer& printer = host().platform().printer;
   printer.ShowPrinter();
   if (chAll.Value()) {
     PrintAllMembers();
@@ -231,8 +232,8 @@ void FrmSelectEducator::PrintPages() {
 
 // One job; who is stopped at is left out with all behind.
 void FrmSelectEducator::PrintAllMembers() {
-  Printer& printer = forms().platform().printer;
-  const auto progress = forms().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
+  Printer& printer = host().platform().printer;
+  const auto progress = host().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
   const int members = ToWholeNumber(LeadingNumber(txtNumber.Text));
   for (int row = 1; row <= members; ++row) {
     if (!progress->Step(row - 1, members, gridEducator.GetText(kNameColumn, row))) break;
@@ -247,13 +248,13 @@ void FrmSelectEducator::PrintAllMembers() {
 
 void FrmSelectEducator::PrintMember(const std::string& id) {
   for (const StaffSheet& sheet : StaffSheets()) {
-    forms().Unseen(std::string(sheet.page), [&](Form& form) {
+    host().RunOffScreen(std::string(sheet.page), [&](Form& form) {
       form.EducatorId = id;
       form.EmisNumber = survey().CollegeEmisNumber;
       form.FormMode = "Edit";
       form.Form_Activate();
       const Head head = PrintOf(sheet.page).head;
-      PrintSheet(forms().platform().printer, sheet, HeadLine(head, survey().CampusEmisNumber, id),
+      PrintSheet(host().platform().printer, sheet, HeadLine(head, survey().CampusEmisNumber, id),
                  [&](std::string_view name, int index) -> const Grid& {
                    return form.Find<Grid>(name, index);
                  });
@@ -263,7 +264,7 @@ void FrmSelectEducator::PrintMember(const std::string& id) {
 
 void FrmSelectEducator::PrintList() {
   constexpr double kBottomMargin = 1000;
-  Printer& printer = forms().platform().printer;
+  Printer& printer = host().platform().printer;
   printer.ShowPrinter();
   printer.SetOrientation(Orientation::kPortrait);
   const double right = printer.Width();

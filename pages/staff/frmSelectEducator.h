@@ -14,7 +14,7 @@ namespace survey {
 // each time it comes to the front.
 class FrmSelectEducator : public Form {
  public:
-  explicit FrmSelectEducator(Forms& forms);
+  explicit FrmSelectEducator(FormHost& host);
   Layout Arrange() override;
   void Form_Activate() override;
 

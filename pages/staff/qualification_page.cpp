@@ -1,6 +1,6 @@
 #include "pages/staff/qualification_page.h"
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {
@@ -20,9 +20,9 @@ QualificationList WithRows(QualificationList list) {
   return list;
 }
 
-QualificationPage::QualificationPage(Forms& forms, std::string name, const PageCaptions& captions,
+QualificationPage::QualificationPage(FormHost& host, std::string name, const PageCaptions& captions,
                                      const QualificationList& list)
-    : StaffPage(forms, std::move(name), "Lecturer Qualifications", captions),
+    : StaffPage(host, std::move(name), "Lecturer Qualifications", captions),
       gridQual(*this, "gridQual", list.design),
       list_(list) {
   gridQual.on_check = [this](int, int) { MarkUnsaved(); };

@@ -43,7 +43,7 @@ class QualificationPage : public StaffPage {
 
  protected:
   // `list` is complete and outlives the page.
-  QualificationPage(Forms& forms, std::string name, const PageCaptions& captions,
+  QualificationPage(FormHost& host, std::string name, const PageCaptions& captions,
                     const QualificationList& list);
 
   void Form_Load() override;

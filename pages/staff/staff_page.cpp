@@ -1,7 +1,7 @@
 #include "pages/staff/staff_page.h"
 
-#include "forms/cell_table.h"
-#include "store/text.h"
+#include "base/text.h"
+#include "records/cell_table.h"
 
 namespace survey {
 

@@ -1,7 +1,8 @@
 #include "pages/staff/subject_page.h"
 
+#include "base/text.h"
+#include "store/dialect.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -37,8 +38,8 @@ SubjectList WithLines(SubjectList list) {
   return list;
 }
 
-SubjectPage::SubjectPage(Forms& forms, std::string name, const SubjectList& list)
-    : StaffPage(forms, std::move(name), "Staff Details",
+SubjectPage::SubjectPage(FormHost& host, std::string name, const SubjectList& list)
+    : StaffPage(host, std::move(name), "Staff Details",
                 {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
       gridSubjects(*this, "gridSubjects", list.design),
       Frame3(*this, "Frame3", list.title),
@@ -159,7 +160,7 @@ bool SubjectPage::FillCombo(const std::string& query) {
 
 // The catalogue that was read before stays in the combo until the next search.
 void SubjectPage::MaintainCatalogue() {
-  forms().ShowModal("frmAddSubjects");
+  host().ShowModal("frmAddSubjects");
   for (OptionButton* type : subject_types_) type->SetValue(false);
 }
 

@@ -1,7 +1,7 @@
 #include "pages/student/frmAddQualification.h"
 
+#include "base/text.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -34,8 +34,8 @@ constexpr const char* kLevels[] = {"Level 2", "Level 3", "Level 4"};
 
 }  // namespace
 
-FrmAddQualification::FrmAddQualification(Forms& forms)
-    : Form(forms, "frmAddQualification", "Add an NQF Qualification") {
+FrmAddQualification::FrmAddQualification(FormHost& host)
+    : Form(host, "frmAddQualification", "Add an NQF Qualification") {
   cboField.on_click = [this] {
     field_ = cboField.items().at(cboField.ListIndex()).item_data;
     MarkUnsaved();
@@ -46,7 +46,7 @@ FrmAddQualification::FrmAddQualification(Forms& forms)
   };
   txtNQFID.on_change = txtTitle.on_change = [this] { MarkUnsaved(); };
   cmdSave.on_click = [this] { Save(); };
-  cmdCancel.on_click = [this] { this->forms().ConfirmUnsaved(cmdSave, *this); };
+  cmdCancel.on_click = [this] { this->host().ConfirmUnsaved(cmdSave, *this); };
 }
 
 Layout FrmAddQualification::Arrange() {
@@ -80,7 +80,7 @@ void FrmAddQualification::Save() {
     Insert();
     added = true;
   });
-  if (committed && added) forms().Unload(*this);
+  if (committed && added) host().Unload(*this);
 }
 
 bool FrmAddQualification::IsComplete() {

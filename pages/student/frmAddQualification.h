@@ -12,7 +12,7 @@ namespace survey {
 // qualification into its list when this form closes.
 class FrmAddQualification : public Form {
  public:
-  explicit FrmAddQualification(Forms& forms);
+  explicit FrmAddQualification(FormHost& host);
   Layout Arrange() override;
 
   Label Label1{*this, "Label1", "Select the NQF Field:"};

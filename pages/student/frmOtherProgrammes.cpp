@@ -1,9 +1,10 @@
 #include "pages/student/frmOtherProgrammes.h"
 
-#include "forms/cell_table.h"
+#include "base/text.h"
 #include "pages/student/population_groups.h"
+#include "records/cell_table.h"
+#include "store/dialect.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -174,8 +175,8 @@ const CellTable& Aet() {
 
 }  // namespace
 
-FrmOtherProgrammes::FrmOtherProgrammes(Forms& forms)
-    : SurveyPage(forms, "frmOtherProgrammes", "Other Programmes", {.menu = "Main Menu"}),
+FrmOtherProgrammes::FrmOtherProgrammes(FormHost& host)
+    : SurveyPage(host, "frmOtherProgrammes", "Other Programmes", {.menu = "Main Menu"}),
       gridlevel5(*this, "gridlevel5", Level5Design()),
       gridNSC(*this, "gridNSC", NscDesign()),
       gridAET(*this, "gridAET", AetDesign()) {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "base/text.h"
 #include "grid/cell_entry.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -124,8 +124,8 @@ std::string_view FirstCharacters(std::string_view text, int count) {
 
 }  // namespace
 
-FrmPage12_1::FrmPage12_1(Forms& forms)
-    : SurveyPage(forms, "frmPage12_1", "STUDENT ENROLMENT FOR OCUPATIONAL QUALIFICATIONS",
+FrmPage12_1::FrmPage12_1(FormHost& host)
+    : SurveyPage(host, "frmPage12_1", "STUDENT ENROLMENT FOR OCUPATIONAL QUALIFICATIONS",
                  {.menu = "Main Menu"}),
       gridPage12_2(*this, "gridPage12_2", EnrolmentDesign()) {
   MarkChangesOf(gridPage12_2);
@@ -136,7 +136,7 @@ FrmPage12_1::FrmPage12_1(Forms& forms)
   // A changed line has the list read anew, which empties it.
   cboSelect.on_edit = [this] { Trap(kTypeAheadName, [this] { Fillsubjectcombo2(cboSelect); }); };
   cmdOK.on_click = [this] { Trap(kTakeChoiceName, [this] { TakeChoice(); }); };
-  cmdAdd.on_click = [this] { this->forms().ShowModal("frmAddQualification"); };
+  cmdAdd.on_click = [this] { this->host().ShowModal("frmAddQualification"); };
   cmdRemove.on_click = [this] { Trap(kRemoveLineName, [this] { RemoveLine(); }); };
 }
 

@@ -1,7 +1,7 @@
 #include "pages/student/frmPage12_2.h"
 
-#include "forms/cell_table.h"
 #include "pages/student/population_groups.h"
+#include "records/cell_table.h"
 
 namespace survey {
 namespace {
@@ -75,8 +75,8 @@ const CellTable& Occupational() {
 
 }  // namespace
 
-FrmPage12_2::FrmPage12_2(Forms& forms)
-    : SurveyPage(forms, "frmPage12_2", kTitle, {.menu = "Main Menu"}),
+FrmPage12_2::FrmPage12_2(FormHost& host)
+    : SurveyPage(host, "frmPage12_2", kTitle, {.menu = "Main Menu"}),
       gridPage12_1(*this, "gridPage12_1", OccupationalDesign(), 0) {
   MarkChangesOf(gridPage12_1);
   cmdSave.on_key_down = [this] { MarkUnsaved(); };

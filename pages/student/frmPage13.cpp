@@ -1,8 +1,9 @@
 #include "pages/student/frmPage13.h"
 
-#include "forms/cell_table.h"
+#include "base/text.h"
+#include "records/cell_table.h"
+#include "store/dialect.h"
 #include "store/recordset.h"
-#include "store/text.h"
 
 namespace survey {
 namespace {
@@ -73,8 +74,8 @@ const GridDesign& BoardersDesign() {
 
 }  // namespace
 
-FrmPage13::FrmPage13(Forms& forms)
-    : SurveyPage(forms, "frmPage13", "STUDENT ENROLMENT"),
+FrmPage13::FrmPage13(FormHost& host)
+    : SurveyPage(host, "frmPage13", "STUDENT ENROLMENT"),
       gridPage13_1(*this, "gridPage13_1", BoardersDesign()) {
   MarkChangesOf(gridPage13_1);
 }

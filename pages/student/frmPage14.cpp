@@ -108,8 +108,8 @@ const CellTable& SpecialNeeds() {
 
 }  // namespace
 
-FrmPage14::FrmPage14(Forms& forms)
-    : SurveyPage(forms, "frmPage14", kTitle),
+FrmPage14::FrmPage14(FormHost& host)
+    : SurveyPage(host, "frmPage14", kTitle),
       gridPage9_1(*this, "gridPage9_1", SpecialNeedsDesign()) {
   MarkChangesOf(gridPage9_1);
 }

@@ -1,15 +1,15 @@
 #ifndef PAGES_STUDENT_FRMPAGE14_H_
 #define PAGES_STUDENT_FRMPAGE14_H_
 
-#include "forms/cell_table.h"
 #include "forms/survey_page.h"
+#include "records/cell_table.h"
 
 namespace survey {
 
 // Table 3.18: students with special needs by primary disability, programme and gender.
 class FrmPage14 : public SurveyPage {
  public:
-  explicit FrmPage14(Forms& forms);
+  explicit FrmPage14(FormHost& host);
 
   GridControl gridPage9_1;
 

@@ -100,8 +100,8 @@ const CellTable& Registration() {
 
 }  // namespace
 
-FrmPage3::FrmPage3(Forms& forms)
-    : SurveyPage(forms, "frmPage3", "Control Totals"),
+FrmPage3::FrmPage3(FormHost& host)
+    : SurveyPage(host, "frmPage3", "Control Totals"),
       gridEnrolment(*this, "gridEnrolment", EnrolmentDesign()) {
   MarkChangesOf(gridEnrolment);
 }

@@ -1,15 +1,15 @@
 #ifndef PAGES_STUDENT_FRMPAGE3_H_
 #define PAGES_STUDENT_FRMPAGE3_H_
 
-#include "forms/cell_table.h"
 #include "forms/survey_page.h"
+#include "records/cell_table.h"
 
 namespace survey {
 
 // Table 2.5, which every other student table is measured against.
 class FrmPage3 : public SurveyPage {
  public:
-  explicit FrmPage3(Forms& forms);
+  explicit FrmPage3(FormHost& host);
 
   GridControl gridEnrolment;
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/cell_table.h"
+#include "base/text.h"
 #include "pages/student/population_groups.h"
-#include "store/text.h"
+#include "records/cell_table.h"
 
 namespace survey {
 namespace {
@@ -230,8 +230,8 @@ const FteTable* FteTableOf(const Value& type) {
 
 }  // namespace
 
-FrmPage5::FrmPage5(Forms& forms)
-    : SurveyPage(forms, "frmPage5", "Headcount Report"),
+FrmPage5::FrmPage5(FormHost& host)
+    : SurveyPage(host, "frmPage5", "Headcount Report"),
       Label1(*this, "Label1", "FULL TIME EQUIVALENCE"),
       gridFTE{{{*this, "gridFTE", N4ToN6FteDesign(), 0},
                {*this, "gridFTE", NcvFteDesign(), 1},

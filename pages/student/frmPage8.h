@@ -8,7 +8,7 @@ namespace survey {
 // Table 3.8: students in NC(V) level 2.
 class FrmPage8 : public NcvPage {
  public:
-  explicit FrmPage8(Forms& forms) : NcvPage(forms, "frmPage8") {}
+  explicit FrmPage8(FormHost& host) : NcvPage(host, "frmPage8") {}
 };
 
 }  // namespace survey

@@ -141,8 +141,8 @@ const CellTable& Agreements() {
 
 }  // namespace
 
-FrmStudentTotal::FrmStudentTotal(Forms& forms)
-    : SurveyPage(forms, "frmStudentTotal", kTitle),
+FrmStudentTotal::FrmStudentTotal(FormHost& host)
+    : SurveyPage(host, "frmStudentTotal", kTitle),
       Label4(*this, "Label4", "STUDENT TOTALS"),
       Label3(*this, "Label3",
              "For audit purposes, a college or campus must be able to provide the list of names "

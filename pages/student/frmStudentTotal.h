@@ -1,8 +1,8 @@
 #ifndef PAGES_STUDENT_FRMSTUDENTTOTAL_H_
 #define PAGES_STUDENT_FRMSTUDENTTOTAL_H_
 
-#include "forms/cell_table.h"
 #include "forms/survey_page.h"
+#include "records/cell_table.h"
 
 namespace survey {
 
@@ -10,7 +10,7 @@ namespace survey {
 // these figures against another table.
 class FrmStudentTotal : public SurveyPage {
  public:
-  explicit FrmStudentTotal(Forms& forms);
+  explicit FrmStudentTotal(FormHost& host);
 
   Label Label4;
   Label Label3;

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/cell_table.h"
 #include "pages/student/population_groups.h"
+#include "records/cell_table.h"
 
 namespace survey {
 
@@ -148,8 +148,8 @@ const NcvLevel& LevelOf(std::string_view page) {
 
 }  // namespace
 
-NcvPage::NcvPage(Forms& forms, std::string_view name)
-    : SurveyPage(forms, std::string(name), "STUDENT ENROLMENT"),
+NcvPage::NcvPage(FormHost& host, std::string_view name)
+    : SurveyPage(host, std::string(name), "STUDENT ENROLMENT"),
       level_(LevelOf(name)),
       design_(DesignOf(level_)),
       grid_(*this, level_.grid, design_, kGridIndex) {

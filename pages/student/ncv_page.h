@@ -15,7 +15,7 @@ struct NcvLevel;
 class NcvPage : public SurveyPage {
  protected:
   // `name` is the form's; throws std::out_of_range for a form of no level.
-  NcvPage(Forms& forms, std::string_view name);
+  NcvPage(FormHost& host, std::string_view name);
 
   Layout Body() override;
   void PlaceCursor() override;

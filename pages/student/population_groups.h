@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "forms/cell_table.h"
 #include "grid/grid_design.h"
+#include "records/cell_table.h"
 
 namespace survey {
 

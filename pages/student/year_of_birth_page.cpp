@@ -2,8 +2,8 @@
 
 namespace survey {
 
-YearOfBirthPage::YearOfBirthPage(Forms& forms, std::string name, const YearOfBirthTable& table)
-    : SurveyPage(forms, std::move(name), "STUDENT ENROLMENT"),
+YearOfBirthPage::YearOfBirthPage(FormHost& host, std::string name, const YearOfBirthTable& table)
+    : SurveyPage(host, std::move(name), "STUDENT ENROLMENT"),
       gridPage9_1(*this, "gridPage9_1", table.design),
       table_(table) {
   gridPage9_1.on_cell = [this](int, int row) { HighlightRow(row); };

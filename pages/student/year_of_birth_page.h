@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "forms/cell_table.h"
 #include "forms/survey_page.h"
+#include "records/cell_table.h"
 
 namespace survey {
 
@@ -19,7 +19,7 @@ struct YearOfBirthTable {
 // does not lose it; this yellow means nothing for saving.
 class YearOfBirthPage : public SurveyPage {
  public:
-  YearOfBirthPage(Forms& forms, std::string name, const YearOfBirthTable& table);
+  YearOfBirthPage(FormHost& host, std::string name, const YearOfBirthTable& table);
 
   GridControl gridPage9_1;
 

@@ -12,7 +12,7 @@ namespace {
 // One control of each kind that no form of the program has in this state.
 class SampleForm : public Form {
  public:
-  explicit SampleForm(Forms& forms) : Form(forms, "frmSample", "Sample") {
+  explicit SampleForm(FormHost& host) : Form(host, "frmSample", "Sample") {
     txtDigits.takes_key = [](char32_t key) { return key >= U'0' && key <= U'9'; };
     cboSearch.on_key_press = [this](char32_t key) {
       typed += static_cast<char>(key);
@@ -70,11 +70,11 @@ class SampleForm : public Form {
 class ControlViewTest : public DesktopTest {
  protected:
   ControlViewTest() {
-    desktop_->forms().Register("frmSample",
-                               [](Forms& forms) { return std::make_unique<SampleForm>(forms); });
-    desktop_->forms().Start("frmSample");
+    desktop_->host().Register("frmSample",
+                              [](FormHost& host) { return std::make_unique<SampleForm>(host); });
+    desktop_->host().Start("frmSample");
   }
-  SampleForm& sample() { return dynamic_cast<SampleForm&>(desktop_->forms().Get("frmSample")); }
+  SampleForm& sample() { return dynamic_cast<SampleForm&>(desktop_->host().Get("frmSample")); }
 };
 
 TEST_F(ControlViewTest, ATextBoxTakesWhatItsControlTakesAndKeepsTheCursor) {

@@ -23,8 +23,8 @@ class DesktopTest : public ::testing::Test {
     std::filesystem::copy_file(TemplateFile(), folder_.path() / "CorvaleAnnualOstrel2012.mdb");
     desktop_ = std::make_unique<Desktop>(DesktopPlaces{
         folder_.path(), QString::fromStdString((folder_.path() / "settings.ini").string())});
-    RegisterShell(desktop_->forms());
-    RegisterPages(desktop_->forms());
+    RegisterShell(desktop_->host());
+    RegisterPages(desktop_->host());
     QObject::connect(&desktop_->view(), &DesktopView::Ended, qApp, [this] { ended_ = true; });
     user_ = std::make_unique<DesktopDriver>(*desktop_);
   }
@@ -38,8 +38,8 @@ class DesktopTest : public ::testing::Test {
     survey().CampusEmisNumber = 108107587;
     survey().SurveyYear = 2012;
     survey().OpenDatabaseConnection();
-    desktop_->forms().Get("frmMainMenu").EditMode = "Edit";
-    desktop_->forms().Start(form);
+    desktop_->host().Get("frmMainMenu").EditMode = "Edit";
+    desktop_->host().Start(form);
   }
 
   // Waits for a box of this caption and text, and answers it.

@@ -13,7 +13,7 @@ constexpr char kUnsaved[] =
     "You have NOT saved your data. Are you sure you want to exit without saving?";
 
 TEST_F(DesktopTest, TheFirstFormAnswersAndEndsByItsCloseBox) {
-  desktop_->forms().Start("frmSelectDatabase");
+  desktop_->host().Start("frmSelectDatabase");
   EXPECT_EQ(desktop_->view().window().windowTitle(), "Corvale Annual Survey 2012 (Ostrel)");
   ExpectBox("User Message", "You have no existing databases on this computer.");
   user_->Click("chkExisting");
@@ -34,7 +34,7 @@ TEST_F(DesktopTest, TheFirstFormAnswersAndEndsByItsCloseBox) {
 }
 
 TEST_F(DesktopTest, ANewDatabaseIsNamedInADialogOfItsOwn) {
-  desktop_->forms().Start("frmSelectDatabase");
+  desktop_->host().Start("frmSelectDatabase");
   user_->Click("chkNew");
   user_->OnDialog([this](QWidget& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Create New Database");
@@ -53,7 +53,7 @@ TEST_F(DesktopTest, ANewDatabaseIsNamedInADialogOfItsOwn) {
 }
 
 TEST_F(DesktopTest, ADialogLeftByItsCloseBoxMakesNoDatabase) {
-  desktop_->forms().Start("frmSelectDatabase");
+  desktop_->host().Start("frmSelectDatabase");
   user_->Click("chkNew");
   user_->OnDialog([](QWidget& dialog) { dialog.close(); });
   ExpectBox("User Message", "Please select a database to continue.");

@@ -24,17 +24,17 @@ class EveryFormTest : public DesktopTest {
     for (const Link& link : PageChain()) names.emplace(link.page);
     if (!survey().DatabaseConnection) OpenSiteAt("frmMainMenu");
     for (const std::string& name : names) {
-      Form& form = desktop_->forms().Get(name);
+      Form& form = desktop_->host().Get(name);
       form.EducatorId = "8001015009087";
       form.FormMode = "New";
-      desktop_->forms().Start(name);
+      desktop_->host().Start(name);
       desktop_->view().window().resize(window);
       QCoreApplication::processEvents();
       ASSERT_EQ(Front(), name);
       EXPECT_EQ(desktop_->view().window().size(), window) << name << " wants a larger screen";
       inspect();
       EXPECT_THAT(inspector_.TakeFaults(), IsEmpty());
-      desktop_->forms().Unload(form);
+      desktop_->host().Unload(form);
     }
   }
   QWidget& Window() { return desktop_->view().window(); }

@@ -58,7 +58,7 @@ const GridDesign kListDesign = {.columns = 2,
 
 class TablesForm : public Form {
  public:
-  explicit TablesForm(Forms& forms) : Form(forms, "frmTables", "Tables") {
+  explicit TablesForm(FormHost& host) : Form(host, "frmTables", "Tables") {
     const auto tell = [this](const char* what) {
       return [this, what](int column, int row) {
         heard.push_back(what + (" " + std::to_string(column)) + "," + std::to_string(row));
@@ -81,10 +81,10 @@ class TablesForm : public Form {
 class GridViewTest : public ::testing::Test, public FormsView {
  protected:
   GridViewTest() {
-    world_.forms.set_view(this);
-    world_.forms.Register("frmTables",
-                          [](Forms& forms) { return std::make_unique<TablesForm>(forms); });
-    world_.forms.Start("frmTables");
+    world_.host.set_view(this);
+    world_.host.Register("frmTables",
+                         [](FormHost& host) { return std::make_unique<TablesForm>(host); });
+    world_.host.Start("frmTables");
     auto* layout = new QVBoxLayout(&window_);
     view_ = new GridView(form().table);
     list_ = new GridView(form().list);
@@ -106,7 +106,7 @@ class GridViewTest : public ::testing::Test, public FormsView {
   }
   void RunModal(Form&) override {}
 
-  TablesForm& form() { return static_cast<TablesForm&>(world_.forms.Get("frmTables")); }
+  TablesForm& form() { return static_cast<TablesForm&>(world_.host.Get("frmTables")); }
   GridControl& table() { return form().table; }
   const std::string& At(int column, int row) { return table().GetText(column, row); }
   // As code does it.

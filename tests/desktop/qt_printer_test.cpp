@@ -9,8 +9,8 @@
 #include <QRegularExpression>
 #include <QTimer>
 
+#include "base/run_time_error.h"
 #include "grid/grid.h"
-#include "store/run_time_error.h"
 #include "world.h"
 
 namespace survey::testing {

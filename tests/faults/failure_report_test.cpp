@@ -64,7 +64,7 @@ const FailuresOf kPages[] = {
 
 void ExpectTold(FilledSite& site, const Told& told) {
   const bool ends = told.location == kEndsTheProgram.location;
-  ASSERT_EQ(site.forms.Ended(), ends);
+  ASSERT_EQ(site.host.Ended(), ends);
   std::erase_if(site.dialogs.seen, [](const MessageBox& box) {
     return box.prompt.find("Location: modDatabaseConnection") != std::string::npos;
   });
@@ -98,7 +98,7 @@ TEST(FailureReportTest, BearsTheNamesUsersKnow) {
     ExpectTold(*site, saved);
     EXPECT_EQ(save.BackColor == kYellow, marked);
 
-    if (site->forms.Ended()) site = std::make_unique<FilledSite>();
+    if (site->host.Ended()) site = std::make_unique<FilledSite>();
     lose_database();
     site->Open(page);
     ExpectTold(*site, filled);

@@ -1,8 +1,7 @@
-#include "forms/forms.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "forms/form_host.h"
 #include "forms/page_chain.h"
 #include "world.h"
 
@@ -17,7 +16,7 @@ std::vector<std::string> events;  // of all probes, in order
 // A form that tells what happens to it, and does what a test wants.
 class Probe : public Form {
  public:
-  Probe(Forms& forms, const std::string& name) : Form(forms, name, name + " caption") {
+  Probe(FormHost& host, const std::string& name) : Form(host, name, name + " caption") {
     cmdDo.on_click = [this] {
       if (act) act(*this);
     };
@@ -48,12 +47,12 @@ class Host : public World, public ::testing::Test {
  protected:
   Host() {
     for (const char* name : {"A", "B", "M"}) {
-      forms.Register(name, [name](Forms& host) { return std::make_unique<Probe>(host, name); });
+      host.Register(name, [name](FormHost& maker) { return std::make_unique<Probe>(maker, name); });
     }
-    forms.Start("A");
+    host.Start("A");
     events.clear();
   }
-  Probe& P(const std::string& name) { return dynamic_cast<Probe&>(forms.Get(name)); }
+  Probe& P(const std::string& name) { return dynamic_cast<Probe&>(host.Get(name)); }
   void Do(const std::string& name, std::function<void(Probe&)> act) {
     P(name).act = std::move(act);
     Click(name, "cmdDo");
@@ -62,24 +61,24 @@ class Host : public World, public ::testing::Test {
 
 TEST_F(Host, AFormIsActivatedOnceTheHandlerThatShowedItHasEnded) {
   Do("A", [this](Probe& a) {
-    forms.Show("B");
-    forms.Unload(a);
+    host.Show("B");
+    host.Unload(a);
     events.push_back("handler ends");
   });
   EXPECT_THAT(events, ElementsAre("B load", "A unload", "handler ends", "B activate"));
-  forms.CloseBox(P("B"));
-  EXPECT_TRUE(forms.Ended());
+  host.CloseBox(P("B"));
+  EXPECT_TRUE(host.Ended());
 }
 
 TEST_F(Host, AModalFormStopsItsCallerAndActivatesTheFormBeneathWhenItCloses) {
   modal_scripts.push_back([this](Form& modal) {
-    EXPECT_TRUE(forms.IsModal(modal));
+    EXPECT_TRUE(host.IsModal(modal));
     dialogs.answers = {kAnswerYes};
-    EXPECT_TRUE(forms.boxes().UserQuestion("?"));  // a box activates nothing
-    forms.CloseBox(modal);
+    EXPECT_TRUE(host.boxes().UserQuestion("?"));  // a box activates nothing
+    host.CloseBox(modal);
   });
   Do("A", [this](Probe&) {
-    forms.ShowModal("M");
+    host.ShowModal("M");
     events.push_back("goes on");
   });
   EXPECT_THAT(events, ElementsAre("M load", "M activate", "M unload", "goes on", "A activate"));
@@ -94,8 +93,8 @@ TEST_F(Host, ControlsReturnToTheirDesignAtEachLoadAndPropertiesStay) {
   a.cbo.AddItem("item", 1);
   a.Caption = "other";
   a.EducatorId = "123";
-  forms.Unload(a);
-  forms.Show("A");
+  host.Unload(a);
+  host.Show("A");
   EXPECT_EQ(a.cmdSave.BackColor, kButtonFace);
   EXPECT_TRUE(a.cmdSave.Enabled);
   EXPECT_FALSE(a.chk.Value());
@@ -158,7 +157,7 @@ TEST_F(Host, AFailureThatNobodyTrapsIsToldAndEndsTheProgram) {
     throw Overflow();
   });
   EXPECT_EQ(LastBox(), "Run-time error '6':\n\nOverflow");
-  EXPECT_TRUE(forms.Ended());
+  EXPECT_TRUE(host.Ended());
   EXPECT_THAT(Query("select SETAID as r from tbl_SETAAccreditation"), ElementsAre("1"));
 }
 
@@ -178,7 +177,7 @@ TEST_F(Host, BoxesHaveTheirCaptionPictureAndDefault) {
        Picture::kNone, 0x144},
   };
   for (const auto& [show, title, picture, type] : cases) {
-    show(forms.boxes());
+    show(host.boxes());
     const MessageBox& box = dialogs.seen.back();
     EXPECT_EQ(std::tie(box.prompt, box.title, box.picture, box.type),
               std::tuple("text", title, picture, type));

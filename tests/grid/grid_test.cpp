@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/run_time_error.h"
 #include "grid/test_designs.h"
-#include "store/run_time_error.h"
 
 namespace survey {
 namespace {

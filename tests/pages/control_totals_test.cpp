@@ -23,7 +23,7 @@ struct ControlTotalsOfPages : PageTest {
 };
 
 TEST_F(ControlTotalsOfPages, EachLevelIsMeasuredAgainstItsRowsOfTable25) {
-  forms.Start("frmPage3");
+  host.Start("frmPage3");
   GridControl& registration = The<GridControl>("frmPage3", "gridEnrolment");
   const std::tuple<const char*, const char*, const char*, int, const char*> levels[] = {
       {"frmPage8", "txtL2", "gridNCV", 23, "31"},
@@ -33,8 +33,8 @@ TEST_F(ControlTotalsOfPages, EachLevelIsMeasuredAgainstItsRowsOfTable25) {
     for (int row = 15; row <= 20; ++row) registration.Type(4, row, std::to_string(filled * row));
     Click("frmPage3", "cmdSave");
     for (const auto& [page, text_box, grid, row, total] : levels) {
-      forms.Unload(forms.Get(page));
-      forms.Start(page);
+      host.Unload(host.Get(page));
+      host.Start(page);
       EXPECT_EQ(The<TextBox>(page, text_box).Text, filled ? total : "0");
       const Color color = The<GridControl>(page, grid, 1).BackColor(14, row);
       EXPECT_EQ(color, filled ? Rgb(255, 0, 0) : Rgb(0, 255, 0)) << page;
@@ -59,7 +59,7 @@ TEST_F(ControlTotalsOfPages, TheColourStaysUntilTheSaveAndTheControlTotalUntilTh
   EXPECT_EQ(Note(), "\u22603 more than the control table (5).");
   EXPECT_THAT(dialogs.seen, IsEmpty());
   // Another form comes over the page and goes.
-  forms.Dispatch(forms.Get("frmPage8"), [this] { forms.ShowModal("frmAbout"); });
+  host.Dispatch(host.Get("frmPage8"), [this] { host.ShowModal("frmAbout"); });
   EXPECT_EQ(ControlTotal(), "8");
   EXPECT_EQ(Total(), kGreen);
 
@@ -79,8 +79,8 @@ TEST_F(ControlTotalsOfPages, EveryReconciledCellIsATotalOfItsGrid) {
   for (const Reconciliation& row : Reconciliations()) {
     const std::string page(row.page);
     Register("101,202," + std::to_string(row.code) + ",2012,5");
-    forms.Unload(forms.Get(page));
-    forms.Start(page);
+    host.Unload(host.Get(page));
+    host.Start(page);
     EXPECT_THAT(dialogs.seen, IsEmpty()) << page;
     const Grid& grid = The<GridControl>(page, row.grid, row.index);
     EXPECT_TRUE(grid.IsTotal(row.total.column, row.total.row)) << row.text_box;

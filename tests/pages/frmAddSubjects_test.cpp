@@ -20,7 +20,7 @@ class AddSubjects : public PageTest {
         "('20','alpha','Report 550'),('21','Women''s Art','NC(V)')");
     Reopen();
   }
-  FrmAddSubjects& Dialog() { return dynamic_cast<FrmAddSubjects&>(forms.Get(kForm)); }
+  FrmAddSubjects& Dialog() { return dynamic_cast<FrmAddSubjects&>(host.Get(kForm)); }
   std::string Codes() {
     std::string codes;
     for (int row = 1; row <= Table().MaxRows(); ++row) codes += At(1, row) + " ";

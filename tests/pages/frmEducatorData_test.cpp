@@ -23,10 +23,10 @@ const std::vector<Typed> kNeeded = {{4, 3, "A"},  {6, 3, "b"}, {2, 3, "C"},     
 
 class EducatorData : public PageTest {
  protected:
-  EducatorData() : PageTest(kPage, "gridgeneral") { forms.Start("frmSelectEducator"); }
+  EducatorData() : PageTest(kPage, "gridgeneral") { host.Start("frmSelectEducator"); }
   void Open(const std::string& id, const char* mode) {
-    forms.Get(kPage).EducatorId = id;
-    forms.Get(kPage).FormMode = mode;
+    host.Get(kPage).EducatorId = id;
+    host.Get(kPage).FormMode = mode;
     Reopen();
   }
   void Fill(const std::vector<Typed>& answers) { PageTest::Fill(Table(), answers); }
@@ -40,7 +40,7 @@ class EducatorData : public PageTest {
 
 TEST_F(EducatorData, OpensANewRecordUnderItsId) {
   Open("AB/12", "New");
-  EXPECT_EQ(forms.Front()->Caption,
+  EXPECT_EQ(host.Front()->Caption,
             " Corvale ANNUAL Survey -  Emis Number : 202-  ID number: AB/12");
   EXPECT_EQ(The<Frame>(kPage, "Frame1").Caption, "AB/12");
   EXPECT_EQ(Shown({{2, 7}, {6, 7}}), "AB/12|AB/12");
@@ -180,7 +180,7 @@ TEST_F(EducatorData, BackAsksItsOwnQuestionAndNextAsksNothing) {
   EXPECT_TRUE(Unsaved());
   Click("cmdNext");
   EXPECT_TRUE(dialogs.seen.empty());
-  EXPECT_EQ(Front() + forms.Front()->EducatorId, "frmLecQualifications18001");
+  EXPECT_EQ(Front() + host.Front()->EducatorId, "frmLecQualifications18001");
 }
 
 }  // namespace

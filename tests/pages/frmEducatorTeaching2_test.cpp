@@ -16,7 +16,7 @@ class EducatorTeaching2 : public PageTest {
  protected:
   EducatorTeaching2() : PageTest(kPage, "gridFields") { Open("8001"); }
   void Open(const std::string& id) {
-    forms.Get(kPage).EducatorId = id;
+    host.Get(kPage).EducatorId = id;
     dialogs.seen.clear();
     Reopen();
   }
@@ -25,8 +25,7 @@ class EducatorTeaching2 : public PageTest {
 };
 
 TEST_F(EducatorTeaching2, OpensItsCells) {
-  EXPECT_EQ(forms.Front()->Caption,
-            " Corvale ANNUAL Survey -  Emis Number : 202-  ID number: 8001");
+  EXPECT_EQ(host.Front()->Caption, " Corvale ANNUAL Survey -  Emis Number : 202-  ID number: 8001");
   EXPECT_EQ(Table().ActiveColumn() * 100 + Table().ActiveRow(), 403);
   ExpectOpen(
       {{4, 3, 4, 14}, {6, 3, 6, 14}, {8, 3, 8, 14}, {10, 3, 10, 14}, {6, 17}, {8, 17}, {10, 17}});
@@ -71,7 +70,7 @@ TEST_F(EducatorTeaching2, NothingAsksOnTheWayOn) {
   Type(6, 3, "2");
   Click("cmdNext");
   EXPECT_TRUE(dialogs.seen.empty());
-  EXPECT_EQ(Front() + forms.Front()->EducatorId, "frmEducatorTeaching8001");
+  EXPECT_EQ(Front() + host.Front()->EducatorId, "frmEducatorTeaching8001");
 }
 
 }  // namespace

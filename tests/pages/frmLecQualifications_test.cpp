@@ -16,9 +16,9 @@ class LecQualifications : public PageTest {
  protected:
   LecQualifications() : PageTest(kFirst, "gridQual") {}
   GridControl& Open(const std::string& page, const std::string& id = "8001") {
-    forms.Unload(forms.Get(page));
-    forms.Get(page).EducatorId = id;
-    forms.Start(page);
+    host.Unload(host.Get(page));
+    host.Get(page).EducatorId = id;
+    host.Start(page);
     statements.clear();
     return The<GridControl>(page, "gridQual");
   }
@@ -29,7 +29,7 @@ TEST_F(LecQualifications, EveryTypeIsStoredUnderTheCodeBeforeItAndFoundAgain) {
   for (int code = 1; code <= 42; ++code) all.push_back(std::to_string(code));
   for (const char* page : {kFirst, kSecond}) {
     GridControl& table = Open(page);
-    EXPECT_EQ(forms.Front()->Caption, "Lecturer Qualifications  ID Number:  8001");
+    EXPECT_EQ(host.Front()->Caption, "Lecturer Qualifications  ID Number:  8001");
     for (int row = 1; row <= table.MaxRows(); ++row) {
       if (table.Tick(3, row).taken) ticked.push_back(table.GetText(1, row));
     }
@@ -82,13 +82,13 @@ TEST_F(LecQualifications, TheHalvesLeadToEachOtherAndToTheList) {
   EXPECT_EQ(Front(), kFirst);
   dialogs.answers = {kAnswerYes};
   Click("cmdNext");
-  EXPECT_EQ(Front() + forms.Front()->EducatorId, std::string(kSecond) + "8001");
+  EXPECT_EQ(Front() + host.Front()->EducatorId, std::string(kSecond) + "8001");
   The<GridControl>(kSecond, "gridQual").Type(2, 19, "typed");  // not known as a change
   World::Click(kSecond, "cmdPrintPage");
   EXPECT_EQ(printer.operations.at(4), "Print \" Staff Details:  8001\"");
   World::Click(kSecond, "cmdNext");
   EXPECT_EQ(Front(), kFirst);
-  forms.Start(kSecond);
+  host.Start(kSecond);
   World::Click(kSecond, "cmdEducatorList");
   EXPECT_EQ(Front(), "frmSelectEducator");
   EXPECT_EQ(dialogs.seen.size(), 2u);

@@ -19,7 +19,7 @@ struct Page3 : PageTest {
 };
 
 TEST_F(Page3, OpensTheCellsOfEachProgramme) {
-  EXPECT_EQ(forms.Front()->Caption, " Corvale ANNUAL Survey -  Emis Number : 202");
+  EXPECT_EQ(host.Front()->Caption, " Corvale ANNUAL Survey -  Emis Number : 202");
   EXPECT_EQ(Cell(Table().ActiveColumn(), Table().ActiveRow()), Cell(7, 3));
   EXPECT_EQ(At(2, 7) + At(2, 9), "REPORT 191 N3 Programmes\nENIGNEERINGREPORT 191 N4 Programmes\n");
   // Of the columns year, two semesters, three trimesters, other.
@@ -107,7 +107,7 @@ TEST_F(Page3, LeavingAYellowPageAsksAndNoKeepsItsCells) {
   dialogs.answers = {kAnswerYes};
   Click("cmdMenu");
   EXPECT_EQ(Front(), "frmMainMenu");
-  EXPECT_FALSE(forms.Get("frmPage3").loaded());
+  EXPECT_FALSE(host.Get("frmPage3").loaded());
   EXPECT_THAT(Query(kRows), IsEmpty());
   Click("frmMainMenu", "cmdLearner", 7);
   EXPECT_EQ(Front(), "frmPage3");
@@ -115,7 +115,7 @@ TEST_F(Page3, LeavingAYellowPageAsksAndNoKeepsItsCells) {
   EXPECT_FALSE(Unsaved());
   dialogs.seen.clear();
   Type(7, 3, "5");
-  forms.CloseBox(forms.Get("frmPage3"));  // asks nothing
+  host.CloseBox(host.Get("frmPage3"));  // asks nothing
   EXPECT_THAT(dialogs.seen, IsEmpty());
 }
 

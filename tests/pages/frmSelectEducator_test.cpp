@@ -1,4 +1,5 @@
-#include "store/text.h"
+#include "base/text.h"
+#include "store/dialect.h"
 #include "support/page_test.h"
 
 namespace survey::testing {
@@ -37,7 +38,7 @@ class SelectEducator : public PageTest {
   // The page that a button opens, whose it is and how.
   std::string Opens(const char* button) {
     Click(button);
-    return Front() + " " + forms.Front()->EducatorId + " " + forms.Front()->FormMode;
+    return Front() + " " + host.Front()->EducatorId + " " + host.Front()->FormMode;
   }
 };
 
@@ -74,7 +75,7 @@ TEST_F(SelectEducator, OpensThePagesOfTheSelectedAndForgetsThemOnReturn) {
   Reopen();
   Table().Click(3, 1);  // "0" is a number like any other
   EXPECT_EQ(Opens("cmdEdit"), "frmEducatorData 0 Edit");
-  EXPECT_EQ(forms.Front()->EmisNumber, 101);
+  EXPECT_EQ(host.Front()->EmisNumber, 101);
   World::Click("frmEducatorData", "cmdPrevious");
   EXPECT_EQ(Answer("cmdSpecialisation"), kNobody);
   Table().Click(1, 2);
@@ -140,9 +141,9 @@ TEST_F(SelectEducator, AFailureEndsTheHandlerAndNotTheProgram) {
   RunScript("alter table tbl_StaffDetail rename to gone_too");
   Reopen();
   EXPECT_THAT(LastBox(), ToldBy("frmSelectSchool", "Load Schools Routine"));
-  forms.Get("frmMainMenu").EditMode = "Add";
+  host.Get("frmMainMenu").EditMode = "Add";
   Click("cmdMenu");
-  EXPECT_EQ(Front() + forms.Front()->EditMode, "frmMainMenuEdit");
+  EXPECT_EQ(Front() + host.Front()->EditMode, "frmMainMenuEdit");
 }
 
 }  // namespace

@@ -72,7 +72,7 @@ TEST_F(Page2, AllAnswersAreOneStatementAndComeBack) {
           "SurveyYear = 2012 where CollegeEmisNumber = 101 and CampusEMISnumber = 202"));
   Reopen();
   Type(4, 17, "Nobody");  // gone as soon as the page is in front again
-  forms.Get("frmPage2").Form_Activate();
+  host.Get("frmPage2").Form_Activate();
   for (const Answer& answer : kAnswers) EXPECT_EQ(Shown({answer.cell}), answer.shown);
   EXPECT_EQ(At(7, 24), "1");  // there is a manager, whatever was answered
 }
@@ -167,7 +167,7 @@ TEST_F(Hostels, SetasReplaceThoseOfAnyYearDownTheColumnsUnderTheFixedYear) {
       "insert into tbl_SETAAccreditation values (101, 202, 2009, 4), (101, 202, null, null),"
       " (101, 202, 2009, 22), (101, 203, 2012, 5)");
   Setas().Tick(3, 2);
-  forms.Get("frmHostels").Form_Activate();
+  host.Get("frmHostels").Form_Activate();
   EXPECT_EQ(Shown(Setas(), {{3, 2}, {3, 5}, {5, 2}, {13, 2}}), "1|1||0");  // a load only ticks
   statements.clear();
   std::vector<std::string> expected = {
@@ -262,7 +262,7 @@ TEST_F(Hostels, AQuoteInATownEndsTheProgram) {
   Fill(Table(), {{4, 2, "Aloe"}, {4, 7, "d'Urban"}});
   Click("cmdSaveHostel");
   EXPECT_THAT(LastBox(), ::testing::HasSubstr("Run-time error '1'"));
-  EXPECT_TRUE(forms.Ended());
+  EXPECT_TRUE(host.Ended());
 }
 
 // ---- frmPage4 ---------------------------------------------------------------------------------

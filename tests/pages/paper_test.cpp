@@ -32,7 +32,7 @@ double HeightOf(const GridDesign& design) {
 // What does not fit is cut off or printed over the next table: no figure may be lost that way.
 class Paper : public World, public ::testing::Test {
  protected:
-  Paper() { RegisterPages(forms); }
+  Paper() { RegisterPages(host); }
 
   void Put(std::string_view page, const std::vector<PrintedGrid>& grids) {
     for (const auto& [name, index, left, top] : grids) {

@@ -26,8 +26,8 @@ const std::string kAssigned = "The subject you have selected has already been as
 class SubjectPages : public World, public ::testing::Test {
  protected:
   SubjectPages() {
-    RegisterShell(forms);
-    RegisterPages(forms);
+    RegisterShell(host);
+    RegisterPages(host);
     OpenSite(101, 202);
     RunScript(
         "delete from lst_Subject; insert into lst_Subject values (7,'100','Maths N1','Report 191'),"
@@ -40,12 +40,12 @@ class SubjectPages : public World, public ::testing::Test {
   }
   void Open(const std::string& page, const std::string& id = "8001") {
     survey.EndStatements();
-    forms.Unload(forms.Get(page_));
+    host.Unload(host.Get(page_));
     page_ = page;
-    forms.Unload(forms.Get(page));
-    forms.Get(page).EducatorId = id;
+    host.Unload(host.Get(page));
+    host.Get(page).EducatorId = id;
     statements.clear();
-    forms.Start(page);
+    host.Start(page);
   }
   template <typename Kind>
   Kind& On(const char* control) {
@@ -217,18 +217,18 @@ TEST_F(SubjectPages, OnlyTheWayForwardAsks) {
        {std::tuple{kTeaching, "frmEducatorTeaching2", "frmEducatorTeaching1"},
         {kQualified, "frmEducatorTeaching", "frmLecQualifications2"}}) {
     Open(page, "8002");
-    EXPECT_THAT(forms.Front()->Caption, EndsWith("Emis Number : 202-  ID number: 8002"));
+    EXPECT_THAT(host.Front()->Caption, EndsWith("Emis Number : 202-  ID number: 8002"));
     Lines().Type(3, 2, "1");
     Press("cmdForward");
     EXPECT_EQ(Front(), page);
     dialogs.answers = {kAnswerYes};
     Press("cmdForward");
-    EXPECT_EQ(Front() + forms.Front()->EducatorId, ahead + std::string("8002"));
+    EXPECT_EQ(Front() + host.Front()->EducatorId, ahead + std::string("8002"));
     Open(page, "8003");
     Lines().Type(3, 2, "1");
     dialogs.seen.clear();
     Press("cmdNext");
-    EXPECT_EQ(Front() + forms.Front()->EducatorId, aside + std::string("8003"));
+    EXPECT_EQ(Front() + host.Front()->EducatorId, aside + std::string("8003"));
     EXPECT_THAT(dialogs.seen, IsEmpty());
   }
 }

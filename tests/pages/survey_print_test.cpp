@@ -26,9 +26,9 @@ class SurveyPrint : public PageTest {
   }
 
   void OpenMenu() {
-    forms.Unload(forms.Get(kList));
-    forms.Get(kMenu).EditMode = "Edit";
-    forms.Start(kMenu);
+    host.Unload(host.Get(kList));
+    host.Get(kMenu).EditMode = "Edit";
+    host.Start(kMenu);
     The<TextBox>(kMenu, "txtColEmis").Text = "101";
     The<TextBox>(kMenu, "txtCamEmis").Text = "202";
   }
@@ -49,9 +49,9 @@ class SurveyPrint : public PageTest {
     return std::ranges::count(printer.operations, operation);
   }
   void ExpectNothingLoadedBut(const std::string& name) {
-    EXPECT_THAT(forms.shown(), ElementsAre(&forms.Get(name)));
+    EXPECT_THAT(host.shown(), ElementsAre(&host.Get(name)));
     for (const char* page : {"frmPage2", "frmPage3", "frmPage12_1", "frmEducatorData"}) {
-      EXPECT_FALSE(forms.Get(page).loaded()) << page;
+      EXPECT_FALSE(host.Get(page).loaded()) << page;
     }
   }
 
@@ -61,10 +61,10 @@ class SurveyPrint : public PageTest {
 TEST_F(SurveyPrint, PrintsTheCampusPageByPageForTheYear2010) {
   for (const auto year : {std::int16_t{2010}, std::int16_t{2012}}) {
     survey.SurveyYear = year;
-    forms.Start("frmPage3");
+    host.Start("frmPage3");
     The<GridControl>("frmPage3", "gridEnrolment").Type(7, 3, std::to_string(year * 10));
     World::Click("frmPage3", "cmdSave");
-    forms.CloseBox(forms.Get("frmPage3"));
+    host.CloseBox(host.Get("frmPage3"));
   }
   OpenMenu();
   survey.CampusEmisNumber = survey.CollegeEmisNumber = 9;
@@ -133,9 +133,9 @@ TEST_F(SurveyPrint, PrintsTheSixPagesOfTheSelectedAsOneJob) {
                   "Draw gridmonths 300 1200" + rest, "Draw gridSubjects 300 3000" + rest, "NewPage",
                   "Draw gridFields 300 1200" + rest, "EndDoc"));
   ExpectNothingLoadedBut(kList);
-  EXPECT_EQ(forms.Get("frmEducatorData").EducatorId, "");
+  EXPECT_EQ(host.Get("frmEducatorData").EducatorId, "");
   Click("cmdEdit");  // still selected
-  EXPECT_EQ(forms.Front()->EducatorId, "7501");
+  EXPECT_EQ(host.Front()->EducatorId, "7501");
 }
 
 TEST_F(SurveyPrint, PrintsAllStaffInOneJobWithoutThoseWhoHaveNoId) {
@@ -178,8 +178,8 @@ TEST_F(SurveyPrint, NobodySelectedOrAFailureOfOnePageIsTold) {
   EXPECT_EQ(std::tuple(CountOf("NewPage"), CountOf("EndDoc")), std::tuple(5, 0));
   ExpectNothingLoadedBut(kList);
   Click("cmdEdit");  // whose print failed is selected
-  EXPECT_EQ(forms.Front()->EducatorId, "7502");
-  forms.CloseBox(*forms.Front());
+  EXPECT_EQ(host.Front()->EducatorId, "7502");
+  host.CloseBox(*host.Front());
   printer.cancel = true;
   Click("cmdPrint");
   EXPECT_THAT(LastBox(), ToldBy("frmSelectEducator", "Print Routine"));

@@ -25,13 +25,13 @@ constexpr char kCollege[] = "Blouklip FET College";
 class MainMenu : public World, public ::testing::Test {
  protected:
   MainMenu() {
-    RegisterShell(forms);
+    RegisterShell(host);
     OpenSite(0, 0);
     survey.SurveyYear = 0;
   }
 
   void StartAdding() {
-    forms.Start(kList);
+    host.Start(kList);
     Click(kList, "cmdAdd");
   }
   ComboBox& Combo(std::string_view name) { return The<ComboBox>(kMenu, name); }
@@ -97,7 +97,7 @@ TEST_F(MainMenu, ASiteIsPickedThroughProvinceCollegeAndCampusAndClaimed) {
     EXPECT_EQ(Combo("cboProvince").Text(), "Western Cape");
     EXPECT_TRUE(The<OptionButton>(kMenu, site.option).Value());
     EXPECT_TRUE(The<Frame>(kMenu, "Frame4").Visible);
-    forms.Unload(forms.Get(kMenu));
+    host.Unload(host.Get(kMenu));
   }
 }
 
@@ -151,15 +151,15 @@ TEST_F(MainMenu, LinksTestTheSiteAndLeaveTheMenu) {
     using Form::Form;
     Layout Arrange() override { return Space(); }
   };
-  forms.Register("frmPage2", [](Forms& host) {
-    return std::make_unique<Page>(host, "frmPage2", "General Information");
+  host.Register("frmPage2", [](FormHost& maker) {
+    return std::make_unique<Page>(maker, "frmPage2", "General Information");
   });
   StartAdding();
   Click(kMenu, "cmdList");
   Click(kList, "cmdContinue");
   EXPECT_EQ(LastBox(), "Please select a college or campus to continue");
-  forms.Get(kMenu).EditMode = "Edit";
-  forms.Start(kMenu);
+  host.Get(kMenu).EditMode = "Edit";
+  host.Start(kMenu);
   for (const char* needs_site : {"cmdGeneral", "cmdHostel", "cmdStafffSummary"}) {
     Click(kMenu, needs_site);
     EXPECT_EQ(Front(), kMenu) << needs_site;
@@ -167,7 +167,7 @@ TEST_F(MainMenu, LinksTestTheSiteAndLeaveTheMenu) {
   survey.CollegeEmisNumber = survey.CampusEmisNumber = 7;
   Click(kMenu, "cmdGeneral");
   EXPECT_EQ(Front(), "frmPage2");
-  EXPECT_FALSE(forms.Get(kMenu).loaded());
+  EXPECT_FALSE(host.Get(kMenu).loaded());
 }
 
 }  // namespace

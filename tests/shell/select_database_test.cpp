@@ -19,7 +19,7 @@ constexpr char kSetting[] = "OSTRELCORVALEANNUALSURVEY/Startup/Database";
 
 class SelectDatabase : public World, public ::testing::Test {
  protected:
-  SelectDatabase() { RegisterShell(forms); }
+  SelectDatabase() { RegisterShell(host); }
 
   fs::path Data() const { return folder.path() / "Data2012"; }
   void PutDatabase(const std::string& name) {
@@ -28,7 +28,7 @@ class SelectDatabase : public World, public ::testing::Test {
   }
   // Opens the form and ticks one of its boxes, if any.
   void Start(std::string_view box = "") {
-    forms.Start(kForm);
+    host.Start(kForm);
     if (!box.empty()) Tick(box);
   }
   void Tick(std::string_view box) { The<CheckBox>(kForm, box).Click(); }
@@ -54,7 +54,7 @@ TEST_F(SelectDatabase, ContinueSaysWhatIsMissing) {
   Continue();
   EXPECT_EQ(LastBox(), "Please select a database to continue.");
   PutDatabase("North.mdb");
-  forms.Unload(forms.Get(kForm));
+  host.Unload(host.Get(kForm));
   Start("chkExisting");
   Continue();
   EXPECT_EQ(LastBox(), "Please select a database.");
@@ -88,7 +88,7 @@ TEST_F(SelectDatabase, OptionsExcludeEachOtherAndPaintContinueToTheLetter) {
   List().Choose(0);
   EXPECT_TRUE(ContinueIsYellow());
   EXPECT_EQ(survey.ChosenDatabaseName, "North");
-  EXPECT_EQ(forms.Front()->TakeFocusRequest(), &The<Button>(kForm, "cmdContinue"));
+  EXPECT_EQ(host.Front()->TakeFocusRequest(), &The<Button>(kForm, "cmdContinue"));
   Tick("chkNew");
   EXPECT_FALSE(Ticked("chkExisting") || List().Enabled);
   EXPECT_EQ(List().ListIndex(), -1);
@@ -179,7 +179,7 @@ TEST_F(SelectDatabase, NamesOfNewDatabasesAreRefusedAndExitEndsTheProgramAtOnce)
     form.Find<Button>("cmdCancel").Click();
   });
   Continue();
-  EXPECT_TRUE(forms.Ended());
+  EXPECT_TRUE(host.Ended());
   EXPECT_THAT(dialogs.seen, IsEmpty());
   EXPECT_THAT(settings.written, IsEmpty());
   EXPECT_FALSE(fs::exists(folder.path() / "outside.mdb"));
@@ -199,7 +199,7 @@ TEST_F(SelectDatabase, AboutDoesWithoutSystemInformation) {
   Click(kForm, "cmdAbout");
   EXPECT_EQ(Front(), kForm);
   Click(kForm, "cmdExit");
-  EXPECT_TRUE(forms.Ended());
+  EXPECT_TRUE(host.Ended());
 }
 
 TEST_F(SelectDatabase, AMissingTemplateShowsOnTheSiteList) {

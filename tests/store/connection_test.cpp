@@ -7,7 +7,7 @@
 #include <chrono>
 #include <vector>
 
-#include "store_fixture.h"
+#include "store/store_fixture.h"
 
 namespace survey {
 namespace {

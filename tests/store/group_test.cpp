@@ -2,7 +2,7 @@
 
 #include <csignal>
 
-#include "store_fixture.h"
+#include "store/store_fixture.h"
 
 namespace survey {
 namespace {

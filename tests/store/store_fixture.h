@@ -10,10 +10,10 @@
 #include <set>
 #include <string>
 
+#include "base/run_time_error.h"
 #include "store/recordset.h"
-#include "store/run_time_error.h"
 #include "store/survey.h"
-#include "store/template.h"
+#include "template/template.h"
 
 namespace survey {
 

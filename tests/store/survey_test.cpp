@@ -1,6 +1,6 @@
 #include "store/survey.h"
 
-#include "store_fixture.h"
+#include "store/store_fixture.h"
 
 namespace survey {
 namespace {

@@ -33,8 +33,8 @@ class PageTest : public World, public ::testing::Test {
  protected:
   PageTest(std::string page, std::string grid, int index = kNoIndex)
       : page_(std::move(page)), grid_(std::move(grid)), index_(index) {
-    RegisterShell(forms);
-    RegisterPages(forms);
+    RegisterShell(host);
+    RegisterPages(host);
     OpenSite(101, 202);
     Start();
   }
@@ -68,7 +68,7 @@ class PageTest : public World, public ::testing::Test {
   bool Unsaved() { return Yellow("cmdSave"); }
   void Save() { Click("cmdSave"); }
   void Reopen() {
-    forms.Unload(forms.Get(page_));
+    host.Unload(host.Get(page_));
     Start();
   }
   void Store(const std::string& statement) {
@@ -100,7 +100,7 @@ class PageTest : public World, public ::testing::Test {
  private:
   void Start() {
     statements.clear();
-    forms.Start(page_);
+    host.Start(page_);
   }
 
   std::string page_;

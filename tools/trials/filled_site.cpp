@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/text.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
-#include "store/text.h"
 
 namespace survey::testing {
 namespace {
@@ -131,8 +131,8 @@ std::map<std::string, std::string> AllRows(const std::string& path) {
 }
 
 FilledSite::FilledSite() {
-  RegisterShell(forms);
-  RegisterPages(forms);
+  RegisterShell(host);
+  RegisterPages(host);
   OpenSite(101, 202);
   survey.Execute(
       "Insert into "
@@ -156,13 +156,13 @@ FilledSite::FilledSite() {
 }
 
 Form& FilledSite::Open(const std::string& page, const std::string& staff_member) {
-  Form& form = forms.Get(page);
-  forms.Unload(form);
+  Form& form = host.Get(page);
+  host.Unload(form);
   survey.OpenDatabaseConnection();  // some pages work on what the one before them has left open
   form.EducatorId = staff_member;
   form.EmisNumber = survey.CollegeEmisNumber;
   form.FormMode = "Edit";
-  forms.Start(page);
+  host.Start(page);
   return form;
 }
 
@@ -187,7 +187,7 @@ void FilledSite::SaveAll(int version) {
     for (const SavedPart& part : SavedParts()) {
       if (part.page == page) Click(page, part.button);
     }
-    forms.Unload(forms.Get(page));
+    host.Unload(host.Get(page));
   }
 }
 

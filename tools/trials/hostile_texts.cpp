@@ -86,7 +86,7 @@ class HostileTrial {
   }
 
   Form& Open(const std::string& page) {
-    if (site_->forms.Ended()) StartAnew();
+    if (site_->host.Ended()) StartAnew();
     return site_->Open(page);
   }
 

@@ -112,7 +112,7 @@ class KillTrial {
       if (!site_.dialogs.seen.empty()) _exit(1);  // a save that was refused
       progress_->done[i] = version;
     }
-    site_.forms.Unload(form);
+    site_.host.Unload(form);
   }
 
   void Inspect() {

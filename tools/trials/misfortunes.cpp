@@ -180,7 +180,7 @@ std::string MeetMisfortune(const Misfortune& misfortune, const SavedPart& part) 
   const auto size = SizeOf(file);
   site.Click(part.page, part.button);
   CheckSaveBoxes(site, misfortune, part, findings);
-  const bool ended = site.forms.Ended();
+  const bool ended = site.host.Ended();
   findings.Require(ended == (part.page == "frmHostels"), "the program has ended, or has not");
   if (!ended) {
     findings.Require(Answers(page) == typed, "the figures did not stay");
@@ -205,8 +205,7 @@ std::string MeetMisfortune(const Misfortune& misfortune, const SavedPart& part) 
   misfortune.begin(file);
   site.Open(part.page);
   CheckOpeningBoxes(site.dialogs.seen, misfortune, part.page, findings);
-  findings.Require(site.forms.Ended() == (part.page == "frmPage12_2"),
-                   "ended when opening, or not");
+  findings.Require(site.host.Ended() == (part.page == "frmPage12_2"), "ended when opening, or not");
   misfortune.end(file);
   findings.Require(AllRows(file) == after, "something that was saved is lost by opening");
   return findings.first();

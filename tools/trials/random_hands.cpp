@@ -73,7 +73,7 @@ class RandomHands {
     watch_.start(kLookEveryMs);
     while (report_.steps < steps_ && findings_.first().empty()) {
       try {
-        if (!desktop_ || desktop_->forms().Ended()) Start();
+        if (!desktop_ || desktop_->host().Ended()) Start();
         Act();
         QCoreApplication::processEvents();
         CheckFiles();
@@ -103,9 +103,9 @@ class RandomHands {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const QString settings = QString::fromStdString((folder_.path() / "settings.ini").string());
     desktop_ = std::make_unique<Desktop>(DesktopPlaces{folder_.path(), settings});
-    RegisterShell(desktop_->forms());
-    RegisterPages(desktop_->forms());
-    desktop_->forms().Start("frmSelectDatabase");
+    RegisterShell(desktop_->host());
+    RegisterPages(desktop_->host());
+    desktop_->host().Start("frmSelectDatabase");
     QCoreApplication::processEvents();
   }
 
@@ -315,7 +315,7 @@ class RandomHands {
 
   // Buttons, and what leads on at the start.
   void PushAny(QWidget& front) {
-    if (desktop_->forms().Front() != nullptr && LeadOn(front)) return;
+    if (desktop_->host().Front() != nullptr && LeadOn(front)) return;
     if (auto* button = AnyPart<QAbstractButton>(front)) {
       ClickAt(front, button->mapTo(&front, QPoint(button->height() / 2, button->height() / 2)),
               Qt::LeftButton, false);
@@ -323,7 +323,7 @@ class RandomHands {
   }
 
   bool LeadOn(QWidget& front) {
-    const std::string form = desktop_->forms().Front()->name();
+    const std::string form = desktop_->host().Front()->name();
     const auto click = [&](const char* name, QPoint place = {12, 12}) {
       auto* part = front.findChild<QWidget*>(name);
       if (part == nullptr || !part->isVisible()) return false;
@@ -380,14 +380,14 @@ class RandomHands {
   void PrintElsewhere() {
     const bool asks = Chance(30);
     Note(asks ? "will print after the dialog" : "will print into the file");
-    auto& printer = dynamic_cast<QtPrinter&>(desktop_->forms().platform().printer);
+    auto& printer = dynamic_cast<QtPrinter&>(desktop_->host().platform().printer);
     printer.PrintToFile(asks ? QString() : PrintFile());
   }
 
   // ---- What must be ----------------------------------------------------------------------------
   // A form whose handler waits for a box is in the middle of something.
   void CheckShown() {
-    if (!desktop_ || desktop_->forms().Ended()) return;
+    if (!desktop_ || desktop_->host().Ended()) return;
     const QWidget* modal = QApplication::activeModalWidget();
     const QWidget* front = desktop_->view().FrontWindow();
     if (modal != (worked_on_.empty() ? nullptr : worked_on_.back()) ||
@@ -402,7 +402,7 @@ class RandomHands {
     if (QApplication::activePopupWidget() != nullptr) return;
     const QWidget* focus = QApplication::focusWidget();
     findings_.Require(focus != nullptr || QApplication::activeWindow() != front,
-                      "keys go nowhere in " + desktop_->forms().Front()->name());
+                      "keys go nowhere in " + desktop_->host().Front()->name());
     findings_.Require(focus == nullptr || (focus->isVisible() && focus->isEnabled()),
                       "keys go to what cannot be used");
   }

@@ -7,11 +7,11 @@
 #include <random>
 #include <vector>
 
+#include "base/text.h"
 #include "filled_site.h"
 #include "forms/page_chain.h"
 #include "pages/register_pages.h"
 #include "shell/register_shell.h"
-#include "store/text.h"
 #include "twin.h"
 
 namespace survey::testing {
@@ -102,8 +102,8 @@ class RandomUser {
 
   // ---- A step --------------------------------------------------------------------------------
   void Step() {
-    if (!world_ || world_->forms.Ended()) Restart();
-    Form& front = *world_->forms.Front();
+    if (!world_ || world_->host.Ended()) Restart();
+    Form& front = *world_->host.Front();
     ++report_.visits[front.name()];
     world_->dialogs.seen.clear();
     world_->dialogs.answers.clear();
@@ -134,9 +134,9 @@ class RandomUser {
     if (!std::filesystem::exists(folder_.path() / "CorvaleAnnualOstrel2012.mdb")) {
       std::filesystem::copy(TemplateFile(), folder_.path() / "CorvaleAnnualOstrel2012.mdb");
     }
-    RegisterShell(world_->forms);
-    RegisterPages(world_->forms);
-    world_->forms.Start("frmSelectDatabase");
+    RegisterShell(world_->host);
+    RegisterPages(world_->host);
+    world_->host.Start("frmSelectDatabase");
     front_ = "frmSelectDatabase";
   }
 
@@ -146,12 +146,12 @@ class RandomUser {
       const bool error = box.prompt.starts_with("Error Desc") || box.prompt.starts_with("Run-time");
       if (error) ++report_.boxes[box.prompt];
     }
-    if (world_->forms.Ended() || !report_.fault.empty()) return;
-    const auto& shown = world_->forms.shown();
+    if (world_->host.Ended() || !report_.fault.empty()) return;
+    const auto& shown = world_->host.shown();
     for (const std::string& page : SavedPages()) {
       if (std::ranges::find(shown, page, &Form::name) == shown.end()) twin_.Closed(page);
     }
-    Form& front = *world_->forms.Front();
+    Form& front = *world_->host.Front();
     const bool is_page = std::ranges::count(SavedPages(), front.name()) > 0;
     if (is_page && !twin_.Knows(front.name())) twin_.Opened(front);
     if (is_page && (front.name() != front_ || had_modal_)) twin_.Activated(front);
@@ -289,12 +289,12 @@ class RandomUser {
          (yes ? ", would say Yes" : ", would say No"));
     if (Chance(1) && button.name() != "cmdSave") {
       Note("closes the window of " + name);
-      return world_->forms.CloseBox(form);
+      return world_->host.CloseBox(form);
     }
     const bool input = button.Visible && button.Enabled;
     button.Click();
     if (button.name() == "cmdUpdateID" || button.name() == "cmdDelete") twin_.ForgetStaff();
-    if (!known || !input || world_->forms.Ended()) return;
+    if (!known || !input || world_->host.Ended()) return;
     const Link* link = FindLink(name, button.name());
     if (link != nullptr && link->guard == Guard::kConfirmUnsaved) {
       const bool leaves = !marked || yes;
@@ -330,7 +330,7 @@ class RandomUser {
       form.Find<Button>("cmdOk").Click();
       return;
     }
-    for (int i = Roll(12); i > 0 && form.loaded() && !world_->forms.Ended(); --i) {
+    for (int i = Roll(12); i > 0 && form.loaded() && !world_->host.Ended(); --i) {
       ++report_.visits[form.name()];
       WorkOn(form);
     }

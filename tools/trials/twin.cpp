@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "base/text.h"
 #include "filled_site.h"
 #include "forms/control_totals.h"
-#include "store/text.h"
 #include "twin_entry.h"
 
 namespace survey::testing {
@@ -100,7 +100,7 @@ bool Twin::IsModelled(const std::string& page) {
 }
 
 std::string Twin::KeyOf(const Form& page) const {
-  const Survey& survey = page.forms().survey();
+  const Survey& survey = page.host().survey();
   const std::string year = NumberText(survey.SurveyYear) + "|" + page.name();
   if (kStaffWays.contains(page.name())) {
     return survey.DatabasePath + "|id " + page.EducatorId + "|" + year;

@@ -1,4 +1,4 @@
-#include "forms/forms.h"
+#include "forms/form_host.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -22,35 +22,35 @@ class Nested {
 
 }  // namespace
 
-Forms::Forms(Survey& survey, const Platform& platform)
+FormHost::FormHost(Survey& survey, const Platform& platform)
     : survey_(survey), platform_(platform), boxes_(survey, platform.dialogs) {
   survey_.set_error_reporter([this](std::string_view location, std::string_view description,
                                     std::string_view procedure, double number) {
-    if (IsUnseenWork()) throw RunTimeError(number, std::string(description));
+    if (IsOffScreenWork()) throw RunTimeError(number, std::string(description));
     boxes_.ReportError(location, description, procedure, number);
   });
 }
 
-Forms::~Forms() { survey_.set_error_reporter({}); }
+FormHost::~FormHost() { survey_.set_error_reporter({}); }
 
-void Forms::Register(const std::string& name, Factory factory) {
+void FormHost::Register(const std::string& name, Factory factory) {
   factories_[name] = std::move(factory);
 }
 
-Form& Forms::Get(const std::string& name) {
+Form& FormHost::Get(const std::string& name) {
   std::unique_ptr<Form>& form = forms_[name];
   if (!form) form = factories_.at(name)(*this);
   return *form;
 }
 
-void Forms::Show(const std::string& name) {
+void FormHost::Show(const std::string& name) {
   Form& form = Get(name);
   if (!form.loaded()) form.Load();
   std::erase(shown_, &form);
   shown_.push_back(&form);
 }
 
-void Forms::ShowModal(const std::string& name) {
+void FormHost::ShowModal(const std::string& name) {
   Form& form = Get(name);
   Show(name);
   modal_.push_back(&form);
@@ -61,7 +61,7 @@ void Forms::ShowModal(const std::string& name) {
   if (ended_) throw ProgramEnded();
 }
 
-void Forms::Unload(Form& form) {
+void FormHost::Unload(Form& form) {
   if (!form.loaded()) return;
   form.Form_Unload();
   form.loaded_ = false;
@@ -70,12 +70,12 @@ void Forms::Unload(Form& form) {
   if (activated_ == &form) activated_ = nullptr;
 }
 
-void Forms::UnloadAll() {
+void FormHost::UnloadAll() {
   ended_ = true;
   while (!shown_.empty()) Unload(*shown_.back());
 }
 
-void Forms::Unseen(const std::string& name, const std::function<void(Form&)>& work) {
+void FormHost::RunOffScreen(const std::string& name, const std::function<void(Form&)>& work) {
   const std::unique_ptr<Form> form = factories_.at(name)(*this);
   const Nested nested(unseen_);
   form->Load();
@@ -83,7 +83,7 @@ void Forms::Unseen(const std::string& name, const std::function<void(Form&)>& wo
   form->Form_Unload();
 }
 
-bool Forms::ConfirmUnsaved(const Button& cmdSave, Form& form) {
+bool FormHost::ConfirmUnsaved(const Button& cmdSave, Form& form) {
   if (cmdSave.BackColor == kYellow &&
       boxes_.ExtendedMsgBox(
           "You have NOT saved your data. Are you sure you want to exit without saving?",
@@ -95,7 +95,7 @@ bool Forms::ConfirmUnsaved(const Button& cmdSave, Form& form) {
   return true;
 }
 
-void Forms::Dispatch(Form& form, const std::function<void()>& handler) {
+void FormHost::Dispatch(Form& form, const std::function<void()>& handler) {
   {
     const Nested nested(depth_);
     Guarded(form, handler);
@@ -107,19 +107,19 @@ void Forms::Dispatch(Form& form, const std::function<void()>& handler) {
   if (view_ != nullptr) view_->Refresh();
 }
 
-void Forms::CloseBox(Form& form) {
+void FormHost::CloseBox(Form& form) {
   Dispatch(form, [&] { Unload(form); });
 }
 
-void Forms::Start(const std::string& name) {
+void FormHost::Start(const std::string& name) {
   Dispatch(Get(name), [&] { Show(name); });
 }
 
-bool Forms::IsModal(const Form& form) const {
+bool FormHost::IsModal(const Form& form) const {
   return std::find(modal_.begin(), modal_.end(), &form) != modal_.end();
 }
 
-void Forms::Guarded(Form& form, const std::function<void()>& handler) {
+void FormHost::Guarded(Form& form, const std::function<void()>& handler) {
   try {
     handler();
     survey_.EndStatements();
@@ -129,7 +129,7 @@ void Forms::Guarded(Form& form, const std::function<void()>& handler) {
   }
 }
 
-void Forms::Untrapped(Form& form, const RunTimeError& failure) {
+void FormHost::Untrapped(Form& form, const RunTimeError& failure) {
   try {
     survey_.EndStatements();
   } catch (const RunTimeError&) {
@@ -141,7 +141,7 @@ void Forms::Untrapped(Form& form, const RunTimeError& failure) {
   }
 }
 
-void Forms::ActivateFront() {
+void FormHost::ActivateFront() {
   while (!ended_ && Front() != nullptr && Front() != activated_) {
     Form& front = *Front();
     activated_ = &front;

@@ -1,5 +1,5 @@
-#ifndef STORE_SURVEY_LISTS_H_
-#define STORE_SURVEY_LISTS_H_
+#ifndef TEMPLATE_SURVEY_LISTS_H_
+#define TEMPLATE_SURVEY_LISTS_H_
 
 #include <filesystem>
 #include <stdexcept>
@@ -54,4 +54,4 @@ SurveyLists ReadSurveyLists(const std::filesystem::path& folder);
 
 }  // namespace survey
 
-#endif  // STORE_SURVEY_LISTS_H_
+#endif  // TEMPLATE_SURVEY_LISTS_H_

@@ -1,4 +1,4 @@
-#include "store/text.h"
+#include "base/text.h"
 
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
@@ -9,7 +9,7 @@
 #include <cmath>
 #include <limits>
 
-#include "store/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace survey {
 namespace {
@@ -47,12 +47,6 @@ Whole RoundTo(double number) {
 char LowerLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 }  // namespace
-
-std::string SqlEscape(std::string_view text) {
-  std::string escaped;
-  for (const char c : text) escaped.append(c == '\'' ? 2 : 1, c);
-  return escaped;
-}
 
 double LeadingNumber(std::string_view text) {
   const std::string digits = LeadingDigits(text);

@@ -1,6 +1,7 @@
-#include "forms/record_cells.h"
+#include "records/record_cells.h"
 
-#include "store/text.h"
+#include "base/text.h"
+#include "store/dialect.h"
 
 namespace survey {
 namespace {

@@ -1,9 +1,9 @@
-#include "forms/cell_table.h"
+#include "records/cell_table.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {

@@ -1,5 +1,5 @@
-#ifndef FORMS_CELL_TABLE_H_
-#define FORMS_CELL_TABLE_H_
+#ifndef RECORDS_CELL_TABLE_H_
+#define RECORDS_CELL_TABLE_H_
 
 #include <optional>
 #include <string>
@@ -91,4 +91,4 @@ void InsertRecords(Survey& survey, const CellTable& table, const Grid& grid,
 
 }  // namespace survey
 
-#endif  // FORMS_CELL_TABLE_H_
+#endif  // RECORDS_CELL_TABLE_H_

@@ -1,4 +1,4 @@
-#include "store/survey_lists.h"
+#include "template/survey_lists.h"
 
 #include <csv.h>
 
@@ -11,7 +11,7 @@
 #include <set>
 #include <string_view>
 
-#include "store/text.h"
+#include "base/text.h"
 
 namespace survey {
 namespace {

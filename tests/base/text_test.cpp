@@ -1,11 +1,12 @@
-#include "store/text.h"
+#include "base/text.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdlib>
 
-#include "store/run_time_error.h"
+#include "base/run_time_error.h"
+#include "store/dialect.h"
 #include "store/value.h"
 
 namespace survey {

@@ -1,11 +1,7 @@
-#ifndef PLATFORM_PLATFORM_H_
-#define PLATFORM_PLATFORM_H_
+#ifndef PLATFORM_PROGRAM_FOLDER_H_
+#define PLATFORM_PROGRAM_FOLDER_H_
 
 #include <filesystem>
-
-#include "platform/dialogs.h"
-#include "platform/printer.h"
-#include "platform/settings.h"
 
 namespace survey {
 
@@ -21,14 +17,6 @@ class ProgramFolder {
   virtual bool StartSystemInformation() = 0;
 };
 
-// The ports that the program runs over. Whoever builds them keeps them alive for the whole run.
-struct Platform {
-  Dialogs& dialogs;
-  Printer& printer;
-  Settings& settings;
-  ProgramFolder& program_folder;
-};
-
 }  // namespace survey
 
-#endif  // PLATFORM_PLATFORM_H_
+#endif  // PLATFORM_PROGRAM_FOLDER_H_

@@ -1,5 +1,5 @@
-#ifndef FORMS_FORMS_H_
-#define FORMS_FORMS_H_
+#ifndef FORMS_FORM_HOST_H_
+#define FORMS_FORM_HOST_H_
 
 #include <functional>
 #include <map>
@@ -8,14 +8,14 @@
 #include <vector>
 
 #include "forms/message_boxes.h"
-#include "platform/platform.h"
+#include "forms/platform.h"
 #include "store/survey.h"
 
 namespace survey {
 
 class Button;
 class Form;
-class Forms;
+class FormHost;
 class RunTimeError;
 
 // Who shows the forms: the desktop, or a test.
@@ -23,7 +23,7 @@ class FormsView {
  public:
   virtual ~FormsView() = default;
 
-  // Called when a user action has ended: take over what changed. Forms::shown() tells which
+  // Called when a user action has ended: take over what changed. FormHost::shown() tells which
   // forms are to be seen.
   virtual void Refresh() = 0;
 
@@ -32,24 +32,24 @@ class FormsView {
 };
 
 // Thrown to leave a handler when the program has ended under it, as when a modal form's Exit
-// was clicked. Forms::Dispatch alone catches it.
+// was clicked. FormHost::Dispatch alone catches it.
 struct ProgramEnded {};
 
 // The host of the forms: makes them on first use, shows and unloads them, and runs what users do
 // on them. All of it on the one interface thread.
-class Forms {
+class FormHost {
  public:
-  using Factory = std::function<std::unique_ptr<Form>(Forms&)>;
+  using Factory = std::function<std::unique_ptr<Form>(FormHost&)>;
 
   // All arguments must outlive the host. set_view() before the first Dispatch.
-  Forms(Survey& survey, const Platform& platform);
-  ~Forms();
+  FormHost(Survey& survey, const Platform& platform);
+  ~FormHost();
   void set_view(FormsView* view) { view_ = view; }
 
   // Makes a form known by its name; `Kind` is made from the host alone.
   template <typename Kind>
   void Register(const std::string& name) {
-    Register(name, [](Forms& forms) { return std::make_unique<Kind>(forms); });
+    Register(name, [](FormHost& host) { return std::make_unique<Kind>(host); });
   }
   void Register(const std::string& name, Factory factory);
   bool IsBuilt(const std::string& name) const { return factories_.contains(name); }
@@ -72,8 +72,8 @@ class Forms {
   // use it and drops it: nothing is left behind, and one that is on screen is not disturbed. What
   // the traps of any form would report meanwhile is thrown as a RunTimeError instead, so that the
   // caller's trap alone tells it; what they keep silent about stays silent.
-  void Unseen(const std::string& name, const std::function<void(Form&)>& work);
-  bool IsUnseenWork() const { return unseen_ > 0; }
+  void RunOffScreen(const std::string& name, const std::function<void(Form&)>& work);
+  bool IsOffScreenWork() const { return unseen_ > 0; }
 
   // Answers whether the form may be left: unloads it at once when `cmdSave` is not yellow, else
   // asks first. After a No nothing has changed.
@@ -112,10 +112,10 @@ class Forms {
   std::vector<Form*> modal_;
   Form* activated_ = nullptr;  // the front form that was activated last
   int depth_ = 0;              // of actions within actions
-  int unseen_ = 0;             // depth of Unseen
+  int unseen_ = 0;             // depth of RunOffScreen
   bool ended_ = false;
 };
 
 }  // namespace survey
 
-#endif  // FORMS_FORMS_H_
+#endif  // FORMS_FORM_HOST_H_

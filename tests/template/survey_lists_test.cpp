@@ -1,6 +1,6 @@
-#include "store/survey_lists.h"
+#include "template/survey_lists.h"
 
-#include "store_fixture.h"
+#include "store/store_fixture.h"
 
 namespace survey {
 namespace {

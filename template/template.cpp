@@ -1,13 +1,14 @@
-#include "store/template.h"
+#include "template/template.h"
 
 #include <filesystem>
 #include <initializer_list>
 
+#include "base/run_time_error.h"
+#include "base/text.h"
 #include "store/connection.h"
-#include "store/run_time_error.h"
-#include "store/schema.h"
+#include "store/dialect.h"
 #include "store/survey.h"
-#include "store/text.h"
+#include "template/schema.h"
 
 namespace survey {
 namespace {

@@ -1,12 +1,12 @@
-#ifndef PLATFORM_PRINTER_H_
-#define PLATFORM_PRINTER_H_
+#ifndef PRINTING_PRINTER_H_
+#define PRINTING_PRINTER_H_
 
 #include <string>
 #include <string_view>
 
-namespace survey {
+#include "grid/grid.h"
 
-class Grid;
+namespace survey {
 
 enum class Orientation { kPortrait = 1, kLandscape = 2 };
 
@@ -47,4 +47,4 @@ class Printer {
 
 }  // namespace survey
 
-#endif  // PLATFORM_PRINTER_H_
+#endif  // PRINTING_PRINTER_H_

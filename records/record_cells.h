@@ -1,5 +1,5 @@
-#ifndef FORMS_RECORD_CELLS_H_
-#define FORMS_RECORD_CELLS_H_
+#ifndef RECORDS_RECORD_CELLS_H_
+#define RECORDS_RECORD_CELLS_H_
 
 #include <string>
 #include <vector>
@@ -39,4 +39,4 @@ std::string JoinPieces(const std::vector<StatementPiece>& pieces, const Grid& gr
 
 }  // namespace survey
 
-#endif  // FORMS_RECORD_CELLS_H_
+#endif  // RECORDS_RECORD_CELLS_H_

@@ -1,5 +1,5 @@
-#ifndef STORE_RUN_TIME_ERROR_H_
-#define STORE_RUN_TIME_ERROR_H_
+#ifndef BASE_RUN_TIME_ERROR_H_
+#define BASE_RUN_TIME_ERROR_H_
 
 #include <stdexcept>
 #include <string>
@@ -32,4 +32,4 @@ RunTimeError CancelWasSelected();     // 32755
 
 }  // namespace survey
 
-#endif  // STORE_RUN_TIME_ERROR_H_
+#endif  // BASE_RUN_TIME_ERROR_H_

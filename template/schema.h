@@ -1,5 +1,5 @@
-#ifndef STORE_SCHEMA_H_
-#define STORE_SCHEMA_H_
+#ifndef TEMPLATE_SCHEMA_H_
+#define TEMPLATE_SCHEMA_H_
 
 namespace survey {
 
@@ -9,4 +9,4 @@ extern const char kSchema[];
 
 }  // namespace survey
 
-#endif  // STORE_SCHEMA_H_
+#endif  // TEMPLATE_SCHEMA_H_

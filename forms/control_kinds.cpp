@@ -1,4 +1,4 @@
-#include "forms/controls.h"
+#include "forms/control_kinds.h"
 
 #include <unicode/unistr.h>
 

@@ -1,9 +1,9 @@
-#ifndef STORE_TEMPLATE_H_
-#define STORE_TEMPLATE_H_
+#ifndef TEMPLATE_TEMPLATE_H_
+#define TEMPLATE_TEMPLATE_H_
 
 #include <string>
 
-#include "store/survey_lists.h"
+#include "template/survey_lists.h"
 
 namespace survey {
 
@@ -14,4 +14,4 @@ void MakeTemplate(const SurveyLists& lists, const std::string& path);
 
 }  // namespace survey
 
-#endif  // STORE_TEMPLATE_H_
+#endif  // TEMPLATE_TEMPLATE_H_

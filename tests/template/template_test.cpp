@@ -1,6 +1,6 @@
-#include "store/template.h"
+#include "template/template.h"
 
-#include "store_fixture.h"
+#include "store/store_fixture.h"
 
 namespace survey {
 namespace {

@@ -1,5 +1,5 @@
-#ifndef FORMS_CONTROLS_H_
-#define FORMS_CONTROLS_H_
+#ifndef FORMS_CONTROL_KINDS_H_
+#define FORMS_CONTROL_KINDS_H_
 
 #include <cstdint>
 #include <functional>
@@ -212,4 +212,4 @@ class GridControl : public Control, public Grid {
 
 }  // namespace survey
 
-#endif  // FORMS_CONTROLS_H_
+#endif  // FORMS_CONTROL_KINDS_H_

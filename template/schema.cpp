@@ -1,4 +1,4 @@
-#include "store/schema.h"
+#include "template/schema.h"
 
 namespace survey {
 

@@ -1,5 +1,5 @@
-#ifndef STORE_TEXT_H_
-#define STORE_TEXT_H_
+#ifndef BASE_TEXT_H_
+#define BASE_TEXT_H_
 
 #include <cstdint>
 #include <filesystem>
@@ -7,9 +7,6 @@
 #include <string_view>
 
 namespace survey {
-
-// `text` with every single quote doubled, ready to stand between single quotes in a statement.
-std::string SqlEscape(std::string_view text);
 
 // The number that `text` gives from its start: blanks are passed over, reading stops at the first
 // character that cannot belong to a decimal number ("12 A" is 12, "" and "A" are 0). The decimal
@@ -45,4 +42,4 @@ std::filesystem::path ToPath(std::string_view text);
 
 }  // namespace survey
 
-#endif  // STORE_TEXT_H_
+#endif  // BASE_TEXT_H_
