@@ -37,20 +37,20 @@ std::vector<Sheet> SheetsOf(const QString& file) {
 // A survey of 2010, which is what the menu prints, and of two staff members, all cells answered.
 class FilledSurvey : public World, public ::testing::Test {
  protected:
-  FilledSurvey() : forms_(survey, {dialogs, printer_, settings, program_folder}) {
-    RegisterShell(forms_);
-    RegisterPages(forms_);
+  FilledSurvey() : host_(survey, {dialogs, printer_, settings, program_folder}) {
+    RegisterShell(host_);
+    RegisterPages(host_);
     OpenSite(199010830, 108107587);
-    host.Get("frmMainMenu").EditMode = "Edit";
-    host.Start("frmMainMenu");
+    host_.Get("frmMainMenu").EditMode = "Edit";
+    host_.Start("frmMainMenu");
     survey.SurveyYear = 2010;
-    campus_ = FillCampus(host, figures_);
+    campus_ = FillCampus(host_, figures_);
   }
 
   std::vector<Sheet> Print(const char* form, const char* button) {
     const QString file = QString::fromStdString((folder.path() / "print.pdf").string());
     printer_.PrintToFile(file);
-    host.Get(form).Find<Button>(button).Click();
+    host_.Get(form).Find<Button>(button).Click();
     printer_.Finish();
     return SheetsOf(file);
   }
@@ -58,7 +58,7 @@ class FilledSurvey : public World, public ::testing::Test {
   // Takes off the sheet what was entered in these grids of the page, and the totals over it.
   void ExpectOn(Sheet& sheet, const FilledPage& filled, const std::vector<PrintedGrid>& grids,
                 const std::string& id = {}) {
-    for (const std::string& text : ReadAgain(host, filled, grids, id)) {
+    for (const std::string& text : ReadAgain(host_, filled, grids, id)) {
       for (const QString& word : QString::fromStdString(text).split(' ', Qt::SkipEmptyParts)) {
         EXPECT_GT(sheet[word]--, 0) << filled.page << ": " << word.toStdString();
       }
@@ -67,14 +67,14 @@ class FilledSurvey : public World, public ::testing::Test {
 
   Figures figures_;
   QtPrinter printer_;
-  FormHost forms_;
+  FormHost host_;
   std::vector<FilledPage> campus_;
 };
 
 TEST_F(FilledSurvey, EveryAnswerAndTotalOfTheCampusStandsOnItsSheet) {
   std::vector<Sheet> sheets = Print("frmMainMenu", "cmdPrintSurvey");
   ASSERT_EQ(sheets.size(), 16u);
-  host.Start("frmOtherProgrammes");  // which prints only by itself
+  host_.Start("frmOtherProgrammes");  // which prints only by itself
   std::vector<Sheet> other = Print("frmOtherProgrammes", "cmdPrintPage");
   ASSERT_EQ(other.size(), 1u);
   auto sheet = sheets.begin();
@@ -89,10 +89,10 @@ TEST_F(FilledSurvey, EveryAnswerAndTotalOfTheCampusStandsOnItsSheet) {
 TEST_F(FilledSurvey, EveryAnswerOfEachStaffMemberStandsOnTheSheetOfItsPage) {
   std::map<std::string, std::vector<FilledPage>> filled;
   for (const char* id : {"7001015001", "7001015002"}) {
-    filled[id] = FillStaffMember(host, id, figures_);
+    filled[id] = FillStaffMember(host_, id, figures_);
   }
-  host.Start("frmSelectEducator");
-  const Form& list = host.Get("frmSelectEducator");
+  host_.Start("frmSelectEducator");
+  const Form& list = host_.Get("frmSelectEducator");
   list.Find<CheckBox>("chAll").Click();
   std::vector<Sheet> sheets = Print("frmSelectEducator", "cmdPrintSurvey");
   ASSERT_EQ(sheets.size(), 2u * 5);
