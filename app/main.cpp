@@ -7,7 +7,7 @@
 
 #include "desktop/desktop.h"
 #include "forms/message_boxes.h"
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 
 namespace {

@@ -19,8 +19,7 @@
 #include <vector>
 
 #include "desktop/desktop.h"
-#include "forms/page_chain.h"
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "world.h"
 
@@ -158,7 +157,7 @@ int Run(int argc, char** argv) {
   desktop.survey().DatabasePath = database.string();
   desktop.survey().CollegeEmisNumber = 101;
   desktop.survey().CampusEmisNumber = 202;
-  desktop.host().Get("frmMainMenu").EditMode = "Edit";
+  desktop.host().Get("frmMainMenu").Property("EditMode") = "Edit";
   Form& first = *desktop.host().Front();
   desktop.host().Dispatch(first, [&] {
     desktop.host().Show("frmMainMenu");
@@ -167,11 +166,8 @@ int Run(int argc, char** argv) {
   QMainWindow plain;
   plain.resize(desktop.view().window().size());
   plain.show();
-  std::string last;
-  for (const Link& link : PageChain()) {
-    const std::string page(link.page);
-    if (page == last || !desktop.host().IsBuilt(page)) continue;
-    last = page;
+  for (const PageRow& row : desktop.host().pages()) {
+    const std::string page(row.name);
     const Showing times = Show(desktop, plain, page);
     const double ours = Median(times.ours);
     const double baseline = Median(times.plain);

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "store/dialect.h"
 

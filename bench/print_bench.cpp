@@ -18,7 +18,7 @@
 
 #include "desktop/qt_printer.h"
 #include "filled_survey.h"
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "world.h"
 
@@ -77,8 +77,7 @@ std::vector<QStringList> TextsOf(FormHost& host, const std::string& id) {
   std::vector<QStringList> sheets;
   for (const char* page : testing::kStaffPages) {
     host.RunOffScreen(page, [&](Form& form) {
-      form.EducatorId = id;
-      form.FormMode = "Edit";
+      testing::ChooseStaffMember(form, id);
       form.Form_Activate();
       QStringList& texts = sheets.emplace_back();
       for (const Control* control : form.controls()) {

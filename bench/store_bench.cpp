@@ -27,8 +27,7 @@ struct FilledProgram : Program {
 
   Form& Page(const std::string& name) {
     Form& page = host.Get(name);
-    page.EducatorId = kStaffId;
-    page.FormMode = "Edit";
+    testing::ChooseStaffMember(page, kStaffId);
     return page;
   }
   void Open(const std::string& name) {

@@ -1,36 +1,19 @@
 #ifndef FORMS_CONTROL_TOTALS_H_
 #define FORMS_CONTROL_TOTALS_H_
 
-#include <cstdint>
 #include <memory>
-#include <string_view>
 #include <vector>
 
-#include "forms/form.h"
+#include "forms/survey_page.h"
 
 namespace survey {
-
-// A total of a page that is measured against table 2.5.
-struct Reconciliation {
-  std::string_view page;
-  std::string_view grid;
-  int index;
-  Cell total;  // compared and painted
-  std::string_view text_box;
-  std::int16_t code;  // ProgrammeRegistrationTypeCD
-  std::string_view label_name;
-  std::string_view label;  // its number is a text only: the code rules
-};
-
-// All of them, in survey order.
-const std::vector<Reconciliation>& Reconciliations();
 
 // The control totals of one page: a labelled, read-only text box for each, and the painting of
 // the page's totals in green or red. A member of the page.
 class ControlTotals {
  public:
   // `advice_name` is the name of the label that says what the colours mean.
-  ControlTotals(Form& page, const char* advice_name);
+  ControlTotals(SurveyPage& page, const char* advice_name);
 
   // Puts what table 2.5 holds now into the text boxes, in survey order. Throws what
   // Survey::ControlTotal throws.
@@ -50,7 +33,7 @@ class ControlTotals {
     std::unique_ptr<TextBox> text_box;
   };
 
-  Form& page_;
+  SurveyPage& page_;
   std::vector<Box> boxes_;
   Label advice_;
 };

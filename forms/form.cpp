@@ -3,7 +3,6 @@
 #include <stdexcept>
 
 #include "base/text.h"
-#include "forms/page_chain.h"
 
 namespace survey {
 
@@ -40,19 +39,16 @@ void Form::ReportUntrapped(const RunTimeError& failure) {
   boxes().ReportError(name_, failure.what(), routine_, failure.number());
 }
 
-void Form::FollowLink(const Button& button, const Button* cmdSave) {
-  const Link* link = FindLink(name_, button.name());
-  if (link == nullptr) throw std::out_of_range(name_ + " has no link at " + button.name());
-  if (link->guard == Guard::kConfirmUnsaved && !host_.ConfirmUnsaved(*cmdSave, *this)) return;
-  const std::string target(link->target);
-  if (link->passes != Passes::kNothing) host_.Get(target).EducatorId = EducatorId;
-  if (link->passes == Passes::kEducatorIdAndEmisNumber) {
-    host_.Get(target).EmisNumber = EmisNumber;
+void Form::FollowLink(const Link& link, const Button* cmdSave) {
+  if (link.guard == Guard::kConfirmUnsaved && !host_.ConfirmUnsaved(*cmdSave, *this)) return;
+  const std::string target(link.target);
+  for (const std::string_view property : link.passes) {
+    host_.Get(target).properties_.find(property)->second = properties_.find(property)->second;
   }
-  const bool unload_first = link->leaving == Leaving::kUnloadThenShow;
+  const bool unload_first = link.leaving == Leaving::kUnloadThenShow;
   if (unload_first) host_.Unload(*this);
-  if (link->leaving != Leaving::kUnloadOnly) host_.Show(target);
-  if (!unload_first && link->leaving != Leaving::kStays) host_.Unload(*this);
+  if (link.leaving != Leaving::kUnloadOnly) host_.Show(target);
+  if (!unload_first && link.leaving != Leaving::kStays) host_.Unload(*this);
 }
 
 bool Form::Trap(const ErrorName& name, const std::function<void()>& body, Commit commit) {

@@ -2,22 +2,20 @@
 #define FORMS_FORM_H_
 
 #include <functional>
+#include <map>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "base/run_time_error.h"
 #include "forms/control_kinds.h"
 #include "forms/form_host.h"
 #include "forms/layout.h"
+#include "forms/link.h"
 
 namespace survey {
-
-// What the error box names as the place of a failure. The texts outlive the program.
-struct ErrorName {
-  const char* location = "";
-  const char* procedure = "";
-};
 
 // When a trap commits what its body wrote.
 enum class Commit {
@@ -39,11 +37,19 @@ class Form {
   bool loaded() const { return loaded_; }
   std::string Caption;
 
-  // Properties that others set before they show the form.
-  std::string EducatorId;  // ID number of the staff member in hand
-  double EmisNumber = 0;   // college EMIS number handed on between staff pages
-  std::string FormMode;    // "New" or "Edit" of a staff record
-  std::string EditMode;    // "Add" or "Edit" of a site
+  // A property that others set before they show the form, by its name; `Kind` is std::string or
+  // double. Null where the form has no such property.
+  template <typename Kind>
+  Kind* FindProperty(std::string_view name) {
+    const auto property = properties_.find(name);
+    return property == properties_.end() ? nullptr : std::get_if<Kind>(&property->second);
+  }
+  // The same of a form that is known to have it; throws std::out_of_range where it has not.
+  template <typename Kind = std::string>
+  Kind& Property(std::string_view name) {
+    if (Kind* property = FindProperty<Kind>(name)) return *property;
+    throw std::out_of_range(name_ + " has no property " + std::string(name));
+  }
 
   const std::vector<Control*>& controls() const { return controls_; }
   // The control (or grid) of that name and index; throws std::out_of_range where there is none.
@@ -72,6 +78,12 @@ class Form {
   // under the form's own name and its routine's, "cmdSave_Click" or "Form_Activate".
   void ReportUntrapped(const RunTimeError& failure);
 
+  // Gives the form a property, empty or 0 at first.
+  template <typename Kind = std::string>
+  Kind& Declare(const char* name) {
+    return properties_[name].emplace<Kind>();
+  }
+
   Survey& survey() const { return host_.survey(); }
   MessageBoxes& boxes() const { return host_.boxes(); }
 
@@ -81,9 +93,9 @@ class Form {
             Commit commit = Commit::kAtEnd);
   // The same without a word.
   bool TrapSilently(const std::function<void()>& body);
-  // Goes where the page chain says this button leads. `cmdSave` carries the unsaved mark that a
-  // guarded link asks about.
-  void FollowLink(const Button& button, const Button* cmdSave = nullptr);
+  // Goes where the link leads and hands on what it passes. `cmdSave` carries the unsaved mark
+  // that a guarded link asks about.
+  void FollowLink(const Link& link, const Button* cmdSave = nullptr);
   void SetFocus(Control& control) { focus_request_ = &control; }
 
  private:
@@ -99,6 +111,7 @@ class Form {
   std::string name_;
   std::string design_caption_;
   std::vector<Control*> controls_;
+  std::map<std::string, std::variant<std::string, double>, std::less<>> properties_;
   Control* focus_request_ = nullptr;
   std::string routine_;  // that the host or a control ran last
   bool loaded_ = false;

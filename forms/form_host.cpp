@@ -20,10 +20,12 @@ class Nested {
   int& depth_;
 };
 
+const std::vector<PageRow> kNoPages;
+
 }  // namespace
 
 FormHost::FormHost(Survey& survey, const Platform& platform)
-    : survey_(survey), platform_(platform), boxes_(survey, platform.dialogs) {
+    : survey_(survey), platform_(platform), boxes_(survey, platform.dialogs), pages_(&kNoPages) {
   survey_.set_error_reporter([this](std::string_view location, std::string_view description,
                                     std::string_view procedure, double number) {
     if (IsOffScreenWork()) throw RunTimeError(number, std::string(description));
@@ -35,6 +37,19 @@ FormHost::~FormHost() { survey_.set_error_reporter({}); }
 
 void FormHost::Register(const std::string& name, Factory factory) {
   factories_[name] = std::move(factory);
+}
+
+void FormHost::RegisterPages(const std::vector<PageRow>& rows) {
+  pages_ = &rows;
+  for (const PageRow& row : rows) {
+    Register(std::string(row.name), [&row](FormHost& host) { return row.make(host, row); });
+  }
+}
+
+const PageRow& FormHost::PageOf(std::string_view name) const {
+  const auto row = std::ranges::find(*pages_, name, &PageRow::name);
+  if (row == pages_->end()) throw std::out_of_range(std::string(name) + " is no page");
+  return *row;
 }
 
 Form& FormHost::Get(const std::string& name) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "forms/message_boxes.h"
+#include "forms/page_row.h"
 #include "forms/platform.h"
 #include "store/survey.h"
 
@@ -52,7 +53,12 @@ class FormHost {
     Register(name, [](FormHost& host) { return std::make_unique<Kind>(host); });
   }
   void Register(const std::string& name, Factory factory);
-  bool IsBuilt(const std::string& name) const { return factories_.contains(name); }
+  // Makes the survey's pages known. The rows must outlive the host.
+  void RegisterPages(const std::vector<PageRow>& rows);
+  // In survey order.
+  const std::vector<PageRow>& pages() const { return *pages_; }
+  // Throws std::out_of_range for a form that is no page of the survey.
+  const PageRow& PageOf(std::string_view name) const;
 
   // The instance of that form, made if there is none; it may not be loaded. The host owns it.
   Form& Get(const std::string& name);
@@ -107,6 +113,7 @@ class FormHost {
   MessageBoxes boxes_;
   FormsView* view_ = nullptr;
   std::map<std::string, Factory> factories_;
+  const std::vector<PageRow>* pages_;
   std::map<std::string, std::unique_ptr<Form>> forms_;
   std::vector<Form*> shown_;
   std::vector<Form*> modal_;

@@ -9,6 +9,12 @@
 
 namespace survey {
 
+// What the error box names as the place of a failure. The texts outlive the program.
+struct ErrorName {
+  const char* location = "";
+  const char* procedure = "";
+};
+
 // The message boxes of the program. What a handler has written is committed before a box is
 // shown, so that no lock on the file waits for the user; a commit that fails throws instead.
 class MessageBoxes {

@@ -1,15 +1,11 @@
 #include "forms/survey_page.h"
 
-#include "printing/page_print.h"
-
 namespace survey {
 
-SurveyPage::SurveyPage(FormHost& host, std::string name, std::string title,
-                       const PageCaptions& captions)
-    : Form(host, std::move(name), title),
+SurveyPage::SurveyPage(FormHost& host, const PageRow& row, const PageCaptions& captions)
+    : Form(host, std::string(row.name), std::string(row.caption)),
       cmdNext(*this, "cmdNext", captions.next),
-      title_(std::move(title)),
-      rules_(RulesOf(this->name())) {
+      row_(row) {
   if (captions.previous != nullptr) {
     AddLink(cmdPrevious.emplace(*this, "cmdPrevious", captions.previous));
   }
@@ -17,7 +13,7 @@ SurveyPage::SurveyPage(FormHost& host, std::string name, std::string title,
   if (captions.menu != nullptr) AddLink(cmdMenu.emplace(*this, "cmdMenu", captions.menu));
   cmdSave.on_click = [this] { Save(); };
   cmdPrintPage.on_click = [this] {
-    Trap(rules_.print, [this] {
+    Trap(row_.errors.print, [this] {
       this->host().platform().printer.ShowPrinter();
       Printpage();
     });
@@ -25,21 +21,24 @@ SurveyPage::SurveyPage(FormHost& host, std::string name, std::string title,
 }
 
 void SurveyPage::Form_Load() {
-  Caption = survey().SurveyCaption(title_);
+  Caption = survey().SurveyCaption(row_.caption);
   survey().OpenDatabaseConnection();
 }
 
 void SurveyPage::Form_Activate() {
-  Trap(rules_.activate, [this] {
+  Trap(row_.errors.activate, [this] {
     PlaceCursor();
     GetPage();
   });
 }
 
+std::string SurveyPage::PrintedHead() const {
+  return HeadLine(row_.paper.head, survey().CampusEmisNumber, StaffId());
+}
+
 void SurveyPage::Printpage() {
-  const PagePrint& page = PrintOf(name());
   PrintPage(
-      host().platform().printer, page, HeadLine(page.head, survey().CampusEmisNumber, EducatorId),
+      host().platform().printer, row_.paper, PrintedHead(),
       [this](std::string_view grid, int index) -> const Grid& { return Find<Grid>(grid, index); });
 }
 
@@ -53,8 +52,12 @@ Layout SurveyPage::Arrange() {
 }
 
 void SurveyPage::AddLink(Button& button) {
-  button.on_click = [this, &button] { FollowLink(button, &cmdSave); };
+  button.on_click = [this, &button] { FollowLink(button); };
   links_.push_back(&button);
+}
+
+void SurveyPage::FollowLink(const Button& button) {
+  Form::FollowLink(LinkOf(row_.links, button.name()), &cmdSave);
 }
 
 void SurveyPage::MarkChangesOf(GridControl& grid) {
@@ -62,13 +65,13 @@ void SurveyPage::MarkChangesOf(GridControl& grid) {
 }
 
 void SurveyPage::Save() {
-  if (rules_.mark == MarkCleared::kBeforeSave) cmdSave.BackColor = kButtonFace;
+  if (row_.mark == MarkCleared::kBeforeSave) cmdSave.BackColor = kButtonFace;
   bool refused = false;
-  const bool saved = Trap(rules_.save, [&] {
+  const bool saved = Trap(row_.errors.save, [&] {
     refused = !MaySave();
     if (!refused) SavePage();
   });
-  if (saved && !refused && rules_.mark == MarkCleared::kAfterSave) cmdSave.BackColor = kButtonFace;
+  if (saved && !refused && row_.mark == MarkCleared::kAfterSave) cmdSave.BackColor = kButtonFace;
 }
 
 }  // namespace survey

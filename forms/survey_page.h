@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "forms/page_rules.h"
+#include "forms/page_row.h"
 
 namespace survey {
 
@@ -22,9 +22,12 @@ struct PageCaptions {
 // otherwise stands in its own file.
 class SurveyPage : public Form {
  public:
-  // `title` is handed to SurveyCaption at each load.
-  SurveyPage(FormHost& host, std::string name, std::string title,
-             const PageCaptions& captions = {});
+  // `row` must outlive the page.
+  SurveyPage(FormHost& host, const PageRow& row, const PageCaptions& captions = {});
+
+  const PageRow& row() const { return row_; }
+  // The first line on paper.
+  std::string PrintedHead() const;
 
   // Fills the page from the store, under the page's trap.
   void Form_Activate() override;
@@ -61,15 +64,17 @@ class SurveyPage : public Form {
   // Adds a button that leads where the page chain says to the page's row of buttons.
   void AddLink(Button& button);
   void MarkUnsaved() { cmdSave.BackColor = kYellow; }
+  // The ID number of the staff member whose page it is; "" on a page of the campus.
+  virtual std::string StaffId() const { return {}; }
   // A change of the user's in this grid sets the unsaved mark.
   void MarkChangesOf(GridControl& grid);
-  const PageRules& rules() const { return rules_; }
+  // Goes where the page's row says this button leads.
+  void FollowLink(const Button& button);
 
  private:
   void Save();
 
-  std::string title_;
-  const PageRules& rules_;
+  const PageRow& row_;
   std::vector<Button*> links_;  // from left to right
 };
 

@@ -28,16 +28,21 @@ struct PrintedGrid {
   double top;
 };
 
+// What a page prints as a job of its own.
 struct PagePrint {
-  std::string_view page;
   Head head;
   std::string_view title;  // its blanks are part of it; empty for no title line
   std::vector<PrintedGrid> grids;
   bool landscape = false;  // turns the paper, for all that is printed after it too
 };
 
-// What a page prints; throws std::out_of_range for a form that prints no page.
-const PagePrint& PrintOf(std::string_view page);
+// What a page adds to the print of all pages of a staff member, which is one job for its caller
+// to end.
+struct StaffSheet {
+  bool has_head;  // prints the page's head line and title
+  std::vector<PrintedGrid> grids;
+  bool ends_sheet;  // what comes next stands on a new sheet
+};
 
 // The head line of a page of this campus and, on staff pages, this staff member.
 std::string HeadLine(Head head, double campus_emis_number, const std::string& staff_id);
@@ -49,9 +54,9 @@ using GridOf = std::function<const Grid&(std::string_view name, int index)>;
 void PrintPage(Printer& printer, const PagePrint& page, const std::string& head_line,
                const GridOf& grid_of);
 
-// The parts of it. The head line begins at `left` twips; an empty title prints no line.
-void PrintHead(Printer& printer, const std::string& head_line, double left, std::string_view title);
-void DrawGrids(Printer& printer, const std::vector<PrintedGrid>& grids, const GridOf& grid_of);
+// Prints what `page` adds as `sheet`. Throws RunTimeError when the printer fails.
+void PrintSheet(Printer& printer, const PagePrint& page, const StaffSheet& sheet,
+                const std::string& head_line, const GridOf& grid_of);
 
 }  // namespace survey
 

@@ -10,37 +10,6 @@ namespace {
 constexpr int kCentralOffice = 1;
 constexpr int kCampusSite = 2;
 
-struct LearnerButton {
-  int index;
-  const char* caption;
-  const char* page;
-};
-
-// The student menu, in the order of the survey's tables, which the indices do not follow.
-constexpr LearnerButton kLearnerButtons[] = {
-    {0, "2.1 - 2.2", "frmPage4"},
-    {4, "2.3 - 2.4", "frmStudentTotal"},
-    {7, "2.5", "frmPage3"},
-    {10, "3.1 - 3.4", "frmPage5"},
-    {14, "3.5 - 3.7", "frmPage6_1"},
-    {1, "3.8", "frmPage8"},
-    {5, "3.9", "frmPage9"},
-    {3, "3.10", "frmPage9_1"},
-    {11, "3.11 - 3.13", "frmOtherProgrammes"},
-    {13, "3.14", "frmPage12_1"},
-    {2, "3.15", "frmPage12_2"},
-    {6, "3.16", "frmPage9_10"},
-    {8, "3.17", "frmPage9_10_1"},
-    {9, "3.18", "frmPage14"},
-    {12, "3.19", "frmPage13"},
-};
-
-// The pages of the printed survey, each a job of its own. Tables 3.11 to 3.13 are not among them.
-constexpr const char* kPrintedPages[] = {
-    "frmPage2",    "frmHostels",    "frmPage4",  "frmStudentTotal", "frmPage3",    "frmPage5",
-    "frmPage6_1",  "frmPage8",      "frmPage9",  "frmPage9_1",      "frmPage12_1", "frmPage12_2",
-    "frmPage9_10", "frmPage9_10_1", "frmPage14", "frmPage13",
-};
 // The year whose figures are printed, and which then holds until the menu is loaded again.
 constexpr int kPrintedYear = 2010;
 
@@ -63,15 +32,9 @@ FrmMainMenu::FrmMainMenu(FormHost& host) : Form(host, "frmMainMenu", "Main Menu"
   cboCampus.on_click = [this] { TrapSilently([this] { ShowCampus(); }); };
   cmdContinue.on_click = [this] { TrapSilently([this] { ClaimSite(); }); };
 
-  cmdGeneral.on_click = [this] { OpenForSite("frmPage2"); };
-  cmdHostel.on_click = [this] { OpenForSite("frmHostels"); };
-  cmdStafffSummary.on_click = [this] { OpenForSite("frmPage4"); };
+  for (const PageRow& row : host.pages()) PlacePage(row);
   cmdStaff.on_click = [this] { Open("frmSelectEducator"); };
   cmdPrintSurvey.on_click = [this] { Trap(kPrintRoutine, [this] { PrintSurvey(); }); };
-  for (const LearnerButton& row : kLearnerButtons) {
-    cmdLearner.push_back(std::make_unique<Button>(*this, "cmdLearner", row.caption, row.index));
-    cmdLearner.back()->on_click = [this, page = row.page] { Open(page); };
-  }
   cmdList.on_click = [this] { Open("frmSelectCollege"); };
   cmdDisclaimer.on_click = [this] { this->host().ShowModal("frmAbout"); };
   cmdExit.on_click = [this] { this->host().UnloadAll(); };
@@ -270,6 +233,21 @@ bool FrmMainMenu::ValidateSite() {
   return false;
 }
 
+// A button of the student menu asks for no site.
+void FrmMainMenu::PlacePage(const PageRow& row) {
+  const std::string page(row.name);
+  for (const MenuPlace& place : row.menu) {
+    const std::string name(place.button);
+    if (place.index == kNoIndex) {
+      Find<Button>(name).on_click = [this, page] { OpenForSite(page); };
+    } else {
+      cmdLearner.push_back(
+          std::make_unique<Button>(*this, name, std::string(place.caption), place.index));
+      cmdLearner.back()->on_click = [this, page] { Open(page); };
+    }
+  }
+}
+
 // ---- The menu --------------------------------------------------------------------------------
 
 void FrmMainMenu::Open(const std::string& target) {
@@ -288,12 +266,16 @@ void FrmMainMenu::PrintSurvey() {
   survey().CampusEmisNumber = LeadingNumber(txtCamEmis.Text);
   survey().CollegeEmisNumber = LeadingNumber(txtColEmis.Text);
   survey().SurveyYear = kPrintedYear;
+  std::vector<std::string> sheets;
+  for (const PageRow& row : host().pages()) {
+    if (row.in_campus_print) sheets.emplace_back(row.name);
+  }
   const auto progress = host().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
-  constexpr int kPages = std::size(kPrintedPages);
-  for (int done = 0; done < kPages; ++done) {
-    const std::string what = "Page " + std::to_string(done + 1) + " of " + std::to_string(kPages);
-    if (!progress->Step(done, kPages, what)) return;
-    host().RunOffScreen(kPrintedPages[done], [](Form& form) {
+  const int total = static_cast<int>(sheets.size());
+  for (int done = 0; done < total; ++done) {
+    const std::string what = "Page " + std::to_string(done + 1) + " of " + std::to_string(total);
+    if (!progress->Step(done, total, what)) return;
+    host().RunOffScreen(sheets[done], [](Form& form) {
       form.Form_Activate();
       dynamic_cast<SurveyPage&>(form).Printpage();
     });

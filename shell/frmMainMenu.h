@@ -20,6 +20,8 @@ class FrmMainMenu : public Form {
   // Whether a site is told in full; says what is missing. Guards nothing: the user may go on.
   bool ValidateSite();
 
+  std::string& EditMode = Declare("EditMode");  // "Add" or "Edit" of a site
+
   Frame Frame1{*this, "Frame1", "Select a college or campus"};
   Label lblSiteType{*this, "lblSiteType",
                     "Please identify your site as the college central office or a campus"};
@@ -69,6 +71,7 @@ class FrmMainMenu : public Form {
   void ShowCampus();
   void ClaimSite();
   void ShowMenu(bool visible);
+  void PlacePage(const PageRow& row);
   void Open(const std::string& target);
   void OpenForSite(const std::string& target);
   void PrintSurvey();

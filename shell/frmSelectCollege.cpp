@@ -29,7 +29,7 @@ FrmSelectCollege::FrmSelectCollege(FormHost& host)
       gridcollege(*this, "gridcollege", SiteListDesign()) {
   cmdContinue.on_click = [this] { Continue(); };
   cmdAdd.on_click = [this] {
-    this->host().Get("frmMainMenu").EditMode = "Add";
+    this->host().Get("frmMainMenu").Property("EditMode") = "Add";
     this->host().Show("frmMainMenu");
     this->host().Unload(*this);
   };
@@ -80,7 +80,7 @@ void FrmSelectCollege::Continue() {
   }
   survey().CampusEmisNumber = LeadingNumber(campus);
   survey().CollegeEmisNumber = LeadingNumber(college);
-  host().Get("frmMainMenu").EditMode = "Edit";
+  host().Get("frmMainMenu").Property("EditMode") = "Edit";
   host().Show("frmMainMenu");
   host().Unload(*this);
 }

@@ -338,16 +338,17 @@ FilledPage FillPage(Form& page, Figures& figures) {
   return filled;
 }
 
+void ChooseStaffMember(Form& form, const std::string& id, const char* mode) {
+  if (auto* staff_member = form.FindProperty<std::string>("EducatorId")) *staff_member = id;
+  if (auto* form_mode = form.FindProperty<std::string>("FormMode")) *form_mode = mode;
+}
+
 std::vector<FilledPage> FillCampus(FormHost& host, Figures& figures) {
   return FillPages(host, kCampusPages, figures);
 }
 
 std::vector<FilledPage> FillStaffMember(FormHost& host, const std::string& id, Figures& figures) {
-  for (const char* page : kStaffPages) {
-    host.Get(page).EducatorId = id;
-    host.Get(page).EmisNumber = host.survey().CollegeEmisNumber;
-  }
-  host.Get("frmEducatorData").FormMode = "New";
+  for (const char* page : kStaffPages) ChooseStaffMember(host.Get(page), id, "New");
   return FillPages(host, kStaffPages, figures);
 }
 
@@ -355,8 +356,7 @@ std::vector<std::string> ReadAgain(FormHost& host, const FilledPage& filled,
                                    const std::vector<PrintedGrid>& grids, const std::string& id) {
   std::vector<std::string> texts;
   host.RunOffScreen(filled.page, [&](Form& page) {
-    page.EducatorId = id;
-    page.FormMode = "Edit";
+    ChooseStaffMember(page, id);
     page.Form_Activate();
     for (const PrintedGrid& printed : grids) {
       const auto& grid = page.Find<GridControl>(printed.name, printed.index);

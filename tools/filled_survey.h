@@ -22,6 +22,10 @@ inline constexpr const char* kStaffPages[] = {
     "frmEducatorTeaching1", "frmEducatorTeaching",   "frmEducatorTeaching2",
 };
 
+// Makes it the page of that staff member, where the form is one of the staff's; `mode` is the
+// record's, "New" or "Edit".
+void ChooseStaffMember(Form& form, const std::string& id, const char* mode = "Edit");
+
 // Figures that all differ until the range is used up, in an order that looks like chance and is
 // the same in every run.
 class Figures {

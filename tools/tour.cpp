@@ -18,7 +18,7 @@
 #include "desktop_driver.h"
 #include "filled_survey.h"
 #include "form_inspector.h"
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 
 namespace survey {
@@ -335,7 +335,7 @@ void Tour::PrintSurvey() {
   const auto filled = testing::FillCampus(desktop_.host(), figures);
   driver_.ExpectFront("frmMainMenu");
   for (const testing::FilledPage& page : filled) {
-    testing::ReadAgain(desktop_.host(), page, PrintOf(page.page).grids);
+    testing::ReadAgain(desktop_.host(), page, desktop_.host().PageOf(page.page).paper.grids);
   }
   PrintTo("22-survey", "cmdPrintSurvey", 16);
 }

@@ -193,8 +193,8 @@ std::string OfThisSite(const Survey& survey) {
 
 }  // namespace
 
-FrmHostels::FrmHostels(FormHost& host)
-    : SurveyPage(host, "frmHostels", "Hostel Accommodation"),
+FrmHostels::FrmHostels(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page),
       gridGeneralInfo(*this, "gridGeneralInfo", HostelDesign()),
       gridhostels(*this, "gridhostels", HostelListDesign()),
       gridSETA(*this, "gridSETA", SetaDesign()) {

@@ -12,7 +12,7 @@ namespace survey {
 // and it does not tell of unsaved hostel details. A failing statement ends the program.
 class FrmHostels : public SurveyPage {
  public:
-  explicit FrmHostels(FormHost& host);
+  FrmHostels(FormHost& host, const PageRow& page);
 
   void Form_Activate() override;
 

@@ -239,9 +239,8 @@ const std::vector<StatementPiece> kUpdate = {
 
 }  // namespace
 
-FrmPage2::FrmPage2(FormHost& host)
-    : SurveyPage(host, "frmPage2", "General Information",
-                 {.previous = "Main Menu", .menu = nullptr}),
+FrmPage2::FrmPage2(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page, {.previous = "Main Menu", .menu = nullptr}),
       gridPage2_1(*this, "gridPage2_1", IdentityDesign()),
       gridGeneralInfo(*this, "gridGeneralInfo", QuestionsDesign()) {
   MarkChangesOf(gridPage2_1);
@@ -252,7 +251,7 @@ FrmPage2::FrmPage2(FormHost& host)
 Layout FrmPage2::Body() { return ColumnOf({Place(gridPage2_1, 1), Place(gridGeneralInfo, 3)}); }
 
 void FrmPage2::Form_Activate() {
-  Trap(rules().activate, [this] { GetPage(); });
+  Trap(row().errors.activate, [this] { GetPage(); });
   if (gridPage2_1.GetText(kCampusName.column, kCampusName.row).empty()) {
     gridPage2_1.SetText(kCampusName.column, kCampusName.row, survey().ChosenDatabaseName);
   }
@@ -295,7 +294,7 @@ bool FrmPage2::MaySave() {
 }
 
 void FrmPage2::SavePage() {
-  Trap(rules().save, [this] {
+  Trap(row().errors.save, [this] {
     survey().Execute(JoinPieces(kUpdate, gridGeneralInfo) +
                      "',SurveyYear = " + NumberText(survey().SurveyYear) +
                      " where CollegeEmisNumber = " + NumberText(survey().CollegeEmisNumber) +

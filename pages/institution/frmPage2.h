@@ -10,7 +10,7 @@ namespace survey {
 // signature section stands at the foot, to be signed on paper.
 class FrmPage2 : public SurveyPage {
  public:
-  explicit FrmPage2(FormHost& host);
+  FrmPage2(FormHost& host, const PageRow& page);
 
   // Unlike other pages goes on after a failed load: the site's numbers are always shown.
   void Form_Activate() override;

@@ -144,8 +144,8 @@ const CellTable& LectureStaff() {
 
 }  // namespace
 
-FrmPage4::FrmPage4(FormHost& host)
-    : SurveyPage(host, "frmPage4", "Personnel Staff Information"),
+FrmPage4::FrmPage4(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page),
       gridPage4_2(*this, "gridPage4_2", StaffDesign()),
       gridLectureStaff(*this, "gridLectureStaff", DegreeDesign()) {
   Label4.Heading = true;

@@ -8,7 +8,7 @@ namespace survey {
 // Tables 2.1 and 2.2, the staff in numbers, and the door to the individual staff records.
 class FrmPage4 : public SurveyPage {
  public:
-  explicit FrmPage4(FormHost& host);
+  FrmPage4(FormHost& host, const PageRow& page);
 
   Label Label4{*this, "Label4", "STAFF TABLES"};
   Label Label1{*this, "Label1",

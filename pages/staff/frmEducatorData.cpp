@@ -251,9 +251,8 @@ bool IsMissing(const Grid& grid, const RequiredCell& required) {
 
 }  // namespace
 
-FrmEducatorData::FrmEducatorData(FormHost& host)
-    : StaffPage(host, "frmEducatorData", "Staff Details",
-                {.next = "Next", .previous = "Staff List", .menu = nullptr}),
+FrmEducatorData::FrmEducatorData(FormHost& host, const PageRow& page)
+    : StaffPage(host, page, {.next = "Next", .previous = "Staff List", .menu = nullptr}),
       gridgeneral(*this, "gridgeneral", GeneralDesign()),
       gridTraining(*this, "gridTraining", TrainingDesign()) {
   MarkChangesOf(gridgeneral);

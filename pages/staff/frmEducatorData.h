@@ -12,10 +12,12 @@ namespace survey {
 // does to the store does not depend on it.
 class FrmEducatorData : public StaffPage {
  public:
-  explicit FrmEducatorData(FormHost& host);
+  FrmEducatorData(FormHost& host, const PageRow& page);
 
   void Form_Activate() override;
 
+  double& EmisNumber = Declare<double>("EmisNumber");  // the college's; handed on, not read
+  std::string& FormMode = Declare("FormMode");         // "New" or "Edit"
   GridControl gridgeneral;
   Label lblID{*this, "lblID", "ID or Passport number can only be updated from the staff list page"};
   GridControl gridTraining;

@@ -92,9 +92,8 @@ const SubjectList& TeachingSubjects() {
 
 }  // namespace
 
-FrmEducatorTeaching::FrmEducatorTeaching(FormHost& host)
-    : SubjectPage(host, "frmEducatorTeaching", TeachingSubjects()),
-      gridmonths(*this, "gridmonths", MonthsDesign()) {
+FrmEducatorTeaching::FrmEducatorTeaching(FormHost& host, const PageRow& page)
+    : SubjectPage(host, page, TeachingSubjects()), gridmonths(*this, "gridmonths", MonthsDesign()) {
   MarkChangesOf(gridmonths);
   gridmonths.on_check = [this](int, int) { MarkUnsaved(); };
 }

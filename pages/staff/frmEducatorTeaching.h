@@ -8,7 +8,7 @@ namespace survey {
 // Questions 4.29, the months in which a lecturer taught, and 4.30, the subjects taught this year.
 class FrmEducatorTeaching : public SubjectPage {
  public:
-  explicit FrmEducatorTeaching(FormHost& host);
+  FrmEducatorTeaching(FormHost& host, const PageRow& page);
 
   GridControl gridmonths;
 

@@ -62,7 +62,7 @@ const SubjectList& QualificationSubjects() {
 
 }  // namespace
 
-FrmEducatorTeaching1::FrmEducatorTeaching1(FormHost& host)
-    : SubjectPage(host, "frmEducatorTeaching1", QualificationSubjects()) {}
+FrmEducatorTeaching1::FrmEducatorTeaching1(FormHost& host, const PageRow& page)
+    : SubjectPage(host, page, QualificationSubjects()) {}
 
 }  // namespace survey

@@ -9,7 +9,7 @@ namespace survey {
 // A subject may stand here and on frmEducatorTeaching: neither page looks at the other.
 class FrmEducatorTeaching1 : public SubjectPage {
  public:
-  explicit FrmEducatorTeaching1(FormHost& host);
+  FrmEducatorTeaching1(FormHost& host, const PageRow& page);
 };
 
 }  // namespace survey

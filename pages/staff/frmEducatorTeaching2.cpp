@@ -102,9 +102,8 @@ void ShowFigures(const Recordset& field, int row, Grid& grid) {
 
 }  // namespace
 
-FrmEducatorTeaching2::FrmEducatorTeaching2(FormHost& host)
-    : StaffPage(host, "frmEducatorTeaching2", "Staff Details",
-                {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
+FrmEducatorTeaching2::FrmEducatorTeaching2(FormHost& host, const PageRow& page)
+    : StaffPage(host, page, {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
       gridFields(*this, "gridFields", FieldsDesign()) {
   MarkChangesOf(gridFields);
 }

@@ -10,7 +10,7 @@ namespace survey {
 // was stored from any site. Ticking alone does not set the unsaved mark.
 class FrmEducatorTeaching2 : public StaffPage {
  public:
-  explicit FrmEducatorTeaching2(FormHost& host);
+  FrmEducatorTeaching2(FormHost& host, const PageRow& page);
 
   GridControl gridFields;
 

@@ -70,8 +70,8 @@ const QualificationList& FirstHalf() {
 
 }  // namespace
 
-FrmLecQualifications1::FrmLecQualifications1(FormHost& host)
-    : QualificationPage(host, "frmLecQualifications1",
-                        {.next = "Next", .previous = nullptr, .menu = "Staff List"}, FirstHalf()) {}
+FrmLecQualifications1::FrmLecQualifications1(FormHost& host, const PageRow& page)
+    : QualificationPage(host, page, {.next = "Next", .previous = nullptr, .menu = "Staff List"},
+                        FirstHalf()) {}
 
 }  // namespace survey

@@ -8,7 +8,7 @@ namespace survey {
 // Qualification types 1 to 29.
 class FrmLecQualifications1 : public QualificationPage {
  public:
-  explicit FrmLecQualifications1(FormHost& host);
+  FrmLecQualifications1(FormHost& host, const PageRow& page);
 
  protected:
   QualificationDetails DetailsToSave() const override { return {"", "0", 0}; }

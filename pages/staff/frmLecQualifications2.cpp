@@ -68,9 +68,9 @@ const QualificationList& SecondHalf() {
 
 }  // namespace
 
-FrmLecQualifications2::FrmLecQualifications2(FormHost& host)
-    : QualificationPage(host, "frmLecQualifications2",
-                        {.next = "Previous", .previous = nullptr, .menu = nullptr}, SecondHalf()) {
+FrmLecQualifications2::FrmLecQualifications2(FormHost& host, const PageRow& page)
+    : QualificationPage(host, page, {.next = "Previous", .previous = nullptr, .menu = nullptr},
+                        SecondHalf()) {
   AddLink(cmdEducatorList);
 }
 

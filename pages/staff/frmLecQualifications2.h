@@ -10,7 +10,7 @@ namespace survey {
 // Typing them does not set the unsaved mark.
 class FrmLecQualifications2 : public QualificationPage {
  public:
-  explicit FrmLecQualifications2(FormHost& host);
+  FrmLecQualifications2(FormHost& host, const PageRow& page);
 
   Button cmdEducatorList{*this, "cmdEducatorList", "Staff List"};
 

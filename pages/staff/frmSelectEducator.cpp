@@ -1,7 +1,7 @@
 #include "pages/staff/frmSelectEducator.h"
 
 #include "base/text.h"
-#include "printing/staff_print.h"
+#include "forms/survey_page.h"
 #include "store/dialect.h"
 
 namespace survey {
@@ -50,6 +50,18 @@ constexpr IdCorrection kIdCorrections[] = {
 };
 // clang-format on
 
+// The button names and their captions do not always match.
+const std::vector<Link> kLinks = {
+    {"cmdPrevious", "frmPage13", Guard::kNone, Leaving::kShowThenUnload},
+    {"cmdMenu", "frmMainMenu", Guard::kNone, Leaving::kShowThenUnload},
+    {"cmdEdit", "frmEducatorData", Guard::kOwn, Leaving::kStays, {"EducatorId", "EmisNumber"}},
+    {"cmdAddNew", "frmEducatorData", Guard::kOwn, Leaving::kStays, {"EducatorId", "EmisNumber"}},
+    {"cmdLoad", "frmEducatorTeaching", Guard::kOwn, Leaving::kStays, {"EducatorId"}},
+    {"cmdLoad2", "frmEducatorTeaching2", Guard::kOwn, Leaving::kStays, {"EducatorId"}},
+    {"cmdStaffteaching", "frmEducatorTeaching1", Guard::kOwn, Leaving::kStays, {"EducatorId"}},
+    {"cmdSpecialisation", "frmLecQualifications1", Guard::kOwn, Leaving::kStays, {"EducatorId"}},
+};
+
 }  // namespace
 
 FrmSelectEducator::FrmSelectEducator(FormHost& host)
@@ -70,10 +82,10 @@ FrmSelectEducator::FrmSelectEducator(FormHost& host)
   }
   cmdPrint.on_click = [this] { Trap(kPrintListRoutine, [this] { PrintList(); }); };
   cmdPrintSurvey.on_click = [this] { Trap(kPrintPagesRoutine, [this] { PrintPages(); }); };
-  cmdPrevious.on_click = [this] { FollowLink(cmdPrevious); };
+  cmdPrevious.on_click = [this] { FollowLink(LinkOf(kLinks, "cmdPrevious")); };
   cmdMenu.on_click = [this] {
-    this->host().Get("frmMainMenu").EditMode = "Edit";
-    FollowLink(cmdMenu);
+    this->host().Get("frmMainMenu").Property("EditMode") = "Edit";
+    FollowLink(LinkOf(kLinks, "cmdMenu"));
   };
 }
 
@@ -137,8 +149,8 @@ void FrmSelectEducator::OpenPageOfSelected(const Button& button) {
   }
   EducatorId = *SelectedStaffId;
   EmisNumber = survey().CollegeEmisNumber;
-  if (&button == &cmdEdit) host().Get("frmEducatorData").FormMode = "Edit";
-  FollowLink(button);
+  if (&button == &cmdEdit) host().Get("frmEducatorData").Property("FormMode") = "Edit";
+  FollowLink(LinkOf(kLinks, button.name()));
 }
 
 void FrmSelectEducator::AddNew() {
@@ -150,8 +162,8 @@ void FrmSelectEducator::AddNew() {
   }
   EducatorId = id;
   EmisNumber = survey().CollegeEmisNumber;
-  host().Get("frmEducatorData").FormMode = StaffIdExists(id) ? "Edit" : "New";
-  FollowLink(cmdAddNew);
+  host().Get("frmEducatorData").Property("FormMode") = StaffIdExists(id) ? "Edit" : "New";
+  FollowLink(LinkOf(kLinks, "cmdAddNew"));
 }
 
 // Anywhere, so that who comes from another site or was removed comes with the old details.
@@ -247,14 +259,17 @@ void FrmSelectEducator::PrintAllMembers() {
 }
 
 void FrmSelectEducator::PrintMember(const std::string& id) {
-  for (const StaffSheet& sheet : StaffSheets()) {
-    host().RunOffScreen(std::string(sheet.page), [&](Form& form) {
-      form.EducatorId = id;
-      form.EmisNumber = survey().CollegeEmisNumber;
-      form.FormMode = "Edit";
+  for (const PageRow& row : host().pages()) {
+    if (!row.staff_print) continue;
+    host().RunOffScreen(std::string(row.name), [&](Form& form) {
+      form.Property("EducatorId") = id;
+      if (auto* mode = form.FindProperty<std::string>("FormMode")) *mode = "Edit";
+      if (auto* college = form.FindProperty<double>("EmisNumber")) {
+        *college = survey().CollegeEmisNumber;
+      }
       form.Form_Activate();
-      const Head head = PrintOf(sheet.page).head;
-      PrintSheet(host().platform().printer, sheet, HeadLine(head, survey().CampusEmisNumber, id),
+      PrintSheet(host().platform().printer, row.paper, *row.staff_print,
+                 dynamic_cast<SurveyPage&>(form).PrintedHead(),
                  [&](std::string_view name, int index) -> const Grid& {
                    return form.Find<Grid>(name, index);
                  });

@@ -18,6 +18,9 @@ class FrmSelectEducator : public Form {
   Layout Arrange() override;
   void Form_Activate() override;
 
+  std::string& EducatorId = Declare("EducatorId");     // whose page opens
+  double& EmisNumber = Declare<double>("EmisNumber");  // the college's; handed on
+
   Label lblSelect{*this, "lblSelect", "CLICK on a name to select the Staff Member"};
   Label lblNumber{*this, "lblNumber", "Number of Staff members:"};
   TextBox txtNumber{*this, "txtNumber", "Number of Staff members:"};  // those not listed too

@@ -20,11 +20,9 @@ QualificationList WithRows(QualificationList list) {
   return list;
 }
 
-QualificationPage::QualificationPage(FormHost& host, std::string name, const PageCaptions& captions,
-                                     const QualificationList& list)
-    : StaffPage(host, std::move(name), "Lecturer Qualifications", captions),
-      gridQual(*this, "gridQual", list.design),
-      list_(list) {
+QualificationPage::QualificationPage(FormHost& host, const PageRow& page,
+                                     const PageCaptions& captions, const QualificationList& list)
+    : StaffPage(host, page, captions), gridQual(*this, "gridQual", list.design), list_(list) {
   gridQual.on_check = [this](int, int) { MarkUnsaved(); };
   cmdSave.on_click = [this] {
     try {

@@ -39,11 +39,12 @@ struct QualificationDetails {
 // when reading or storing fails.
 class QualificationPage : public StaffPage {
  public:
+  double& EmisNumber = Declare<double>("EmisNumber");  // the college's; handed on, not read
   GridControl gridQual;
 
  protected:
   // `list` is complete and outlives the page.
-  QualificationPage(FormHost& host, std::string name, const PageCaptions& captions,
+  QualificationPage(FormHost& host, const PageRow& page, const PageCaptions& captions,
                     const QualificationList& list);
 
   void Form_Load() override;

@@ -14,8 +14,12 @@ class StaffPage : public SurveyPage {
  public:
   using SurveyPage::SurveyPage;
 
+  std::string& EducatorId = Declare("EducatorId");  // the ID number
+
  protected:
   void OnUntrappedFailure(const RunTimeError& failure) override { ReportUntrapped(failure); }
+
+  std::string StaffId() const override { return EducatorId; }
 
   // The caption of the pages that name the site and the staff member.
   std::string StaffCaption() const;

@@ -38,9 +38,8 @@ SubjectList WithLines(SubjectList list) {
   return list;
 }
 
-SubjectPage::SubjectPage(FormHost& host, std::string name, const SubjectList& list)
-    : StaffPage(host, std::move(name), "Staff Details",
-                {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
+SubjectPage::SubjectPage(FormHost& host, const PageRow& page, const SubjectList& list)
+    : StaffPage(host, page, {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
       gridSubjects(*this, "gridSubjects", list.design),
       Frame3(*this, "Frame3", list.title),
       cmdSubject(*this, list.add_button, "Add a subject"),

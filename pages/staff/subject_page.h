@@ -78,7 +78,7 @@ class SubjectPage : public StaffPage {
 
  protected:
   // `list` is complete and outlives the page.
-  SubjectPage(FormHost& host, std::string name, const SubjectList& list);
+  SubjectPage(FormHost& host, const PageRow& page, const SubjectList& list);
 
   void Form_Load() override;  // opens no connection
   Layout Body() override;

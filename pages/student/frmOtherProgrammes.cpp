@@ -175,8 +175,8 @@ const CellTable& Aet() {
 
 }  // namespace
 
-FrmOtherProgrammes::FrmOtherProgrammes(FormHost& host)
-    : SurveyPage(host, "frmOtherProgrammes", "Other Programmes", {.menu = "Main Menu"}),
+FrmOtherProgrammes::FrmOtherProgrammes(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page, {.menu = "Main Menu"}),
       gridlevel5(*this, "gridlevel5", Level5Design()),
       gridNSC(*this, "gridNSC", NscDesign()),
       gridAET(*this, "gridAET", AetDesign()) {
@@ -191,7 +191,7 @@ Layout FrmOtherProgrammes::Body() {
 }
 
 void FrmOtherProgrammes::Form_Activate() {
-  Trap(rules().activate, [this] {
+  Trap(row().errors.activate, [this] {
     GetPage();
     control_totals.Fill();
     PlaceCursor();

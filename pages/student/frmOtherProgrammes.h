@@ -10,7 +10,7 @@ namespace survey {
 // Adult Education and Training. The printed survey leaves this page out.
 class FrmOtherProgrammes : public SurveyPage {
  public:
-  explicit FrmOtherProgrammes(FormHost& host);
+  FrmOtherProgrammes(FormHost& host, const PageRow& page);
   void Form_Activate() override;
 
   // All of these throw RunTimeError; what was done before a failure stays done.

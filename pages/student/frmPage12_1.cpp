@@ -124,9 +124,8 @@ std::string_view FirstCharacters(std::string_view text, int count) {
 
 }  // namespace
 
-FrmPage12_1::FrmPage12_1(FormHost& host)
-    : SurveyPage(host, "frmPage12_1", "STUDENT ENROLMENT FOR OCUPATIONAL QUALIFICATIONS",
-                 {.menu = "Main Menu"}),
+FrmPage12_1::FrmPage12_1(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page, {.menu = "Main Menu"}),
       gridPage12_2(*this, "gridPage12_2", EnrolmentDesign()) {
   MarkChangesOf(gridPage12_2);
   cboSelect.on_click = [this] { cmdOK.BackColor = kYellow; };
@@ -153,7 +152,7 @@ void FrmPage12_1::Form_Load() {
 }
 
 void FrmPage12_1::Form_Activate() {
-  Trap(rules().activate, [this] {
+  Trap(row().errors.activate, [this] {
     survey().OpenDatabaseConnection();
     Fillsubjectcombo2(cboSelect);
     GetPage();

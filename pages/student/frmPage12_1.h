@@ -14,7 +14,7 @@ namespace survey {
 // cmdOK says that a picked qualification is not in the grid yet.
 class FrmPage12_1 : public SurveyPage {
  public:
-  explicit FrmPage12_1(FormHost& host);
+  FrmPage12_1(FormHost& host, const PageRow& page);
   // Reads the catalogue and the lines anew, also when frmAddQualification has closed; lines that
   // were not saved are lost then.
   void Form_Activate() override;

@@ -6,8 +6,6 @@
 namespace survey {
 namespace {
 
-constexpr char kTitle[] = "Student Enrolment Information";
-
 // clang-format off
 const GridDesign& OccupationalDesign() {
   static const GridDesign design = {
@@ -75,8 +73,8 @@ const CellTable& Occupational() {
 
 }  // namespace
 
-FrmPage12_2::FrmPage12_2(FormHost& host)
-    : SurveyPage(host, "frmPage12_2", kTitle, {.menu = "Main Menu"}),
+FrmPage12_2::FrmPage12_2(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page, {.menu = "Main Menu"}),
       gridPage12_1(*this, "gridPage12_1", OccupationalDesign(), 0) {
   MarkChangesOf(gridPage12_1);
   cmdSave.on_key_down = [this] { MarkUnsaved(); };
@@ -84,7 +82,7 @@ FrmPage12_2::FrmPage12_2(FormHost& host)
 
 Layout FrmPage12_2::Body() { return ColumnOf({control_totals.Arrange(), Place(gridPage12_1, 1)}); }
 
-void FrmPage12_2::Form_Load() { Caption = survey().SurveyCaption(kTitle); }
+void FrmPage12_2::Form_Load() { Caption = survey().SurveyCaption(row().caption); }
 
 void FrmPage12_2::Form_Activate() {
   survey().OpenDatabaseConnection();

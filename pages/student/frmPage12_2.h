@@ -9,7 +9,7 @@ namespace survey {
 // Table 3.15: headcount for occupational qualifications by organising field.
 class FrmPage12_2 : public SurveyPage {
  public:
-  explicit FrmPage12_2(FormHost& host);
+  FrmPage12_2(FormHost& host, const PageRow& page);
   // Without a trap: a page that cannot be filled ends the program. Throws RunTimeError.
   void Form_Activate() override;
 

@@ -74,9 +74,8 @@ const GridDesign& BoardersDesign() {
 
 }  // namespace
 
-FrmPage13::FrmPage13(FormHost& host)
-    : SurveyPage(host, "frmPage13", "STUDENT ENROLMENT"),
-      gridPage13_1(*this, "gridPage13_1", BoardersDesign()) {
+FrmPage13::FrmPage13(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page), gridPage13_1(*this, "gridPage13_1", BoardersDesign()) {
   MarkChangesOf(gridPage13_1);
 }
 

@@ -12,7 +12,7 @@ namespace survey {
 // holds both genders, and names either a province or a country.
 class FrmPage13 : public SurveyPage {
  public:
-  explicit FrmPage13(FormHost& host);
+  FrmPage13(FormHost& host, const PageRow& page);
 
   GridControl gridPage13_1;
 

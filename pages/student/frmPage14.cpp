@@ -3,8 +3,6 @@
 namespace survey {
 namespace {
 
-constexpr char kTitle[] = "STUDENT ENROLMENT";
-
 // clang-format off
 const GridDesign& SpecialNeedsDesign() {
   static const GridDesign design = {
@@ -108,13 +106,12 @@ const CellTable& SpecialNeeds() {
 
 }  // namespace
 
-FrmPage14::FrmPage14(FormHost& host)
-    : SurveyPage(host, "frmPage14", kTitle),
-      gridPage9_1(*this, "gridPage9_1", SpecialNeedsDesign()) {
+FrmPage14::FrmPage14(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page), gridPage9_1(*this, "gridPage9_1", SpecialNeedsDesign()) {
   MarkChangesOf(gridPage9_1);
 }
 
-void FrmPage14::Form_Load() { Caption = survey().SurveyCaption(kTitle); }
+void FrmPage14::Form_Load() { Caption = survey().SurveyCaption(row().caption); }
 
 Layout FrmPage14::Body() { return Place(gridPage9_1, 1); }
 

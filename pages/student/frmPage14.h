@@ -9,7 +9,7 @@ namespace survey {
 // Table 3.18: students with special needs by primary disability, programme and gender.
 class FrmPage14 : public SurveyPage {
  public:
-  explicit FrmPage14(FormHost& host);
+  FrmPage14(FormHost& host, const PageRow& page);
 
   GridControl gridPage9_1;
 

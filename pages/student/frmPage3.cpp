@@ -100,9 +100,8 @@ const CellTable& Registration() {
 
 }  // namespace
 
-FrmPage3::FrmPage3(FormHost& host)
-    : SurveyPage(host, "frmPage3", "Control Totals"),
-      gridEnrolment(*this, "gridEnrolment", EnrolmentDesign()) {
+FrmPage3::FrmPage3(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page), gridEnrolment(*this, "gridEnrolment", EnrolmentDesign()) {
   MarkChangesOf(gridEnrolment);
 }
 

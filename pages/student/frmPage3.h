@@ -9,7 +9,7 @@ namespace survey {
 // Table 2.5, which every other student table is measured against.
 class FrmPage3 : public SurveyPage {
  public:
-  explicit FrmPage3(FormHost& host);
+  FrmPage3(FormHost& host, const PageRow& page);
 
   GridControl gridEnrolment;
 

@@ -230,8 +230,8 @@ const FteTable* FteTableOf(const Value& type) {
 
 }  // namespace
 
-FrmPage5::FrmPage5(FormHost& host)
-    : SurveyPage(host, "frmPage5", "Headcount Report"),
+FrmPage5::FrmPage5(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page),
       Label1(*this, "Label1", "FULL TIME EQUIVALENCE"),
       gridFTE{{{*this, "gridFTE", N4ToN6FteDesign(), 0},
                {*this, "gridFTE", NcvFteDesign(), 1},

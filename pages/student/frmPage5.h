@@ -12,7 +12,7 @@ namespace survey {
 // group and gender.
 class FrmPage5 : public SurveyPage {
  public:
-  explicit FrmPage5(FormHost& host);
+  FrmPage5(FormHost& host, const PageRow& page);
 
   Label Label1;
   std::array<GridControl, 3> gridFTE;  // tables 3.3, 3.1, 3.2

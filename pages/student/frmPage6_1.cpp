@@ -89,8 +89,8 @@ const CellTable& Headcount() {
 
 }  // namespace
 
-FrmPage6_1::FrmPage6_1(FormHost& host)
-    : SurveyPage(host, "frmPage6_1", "STUDENT ENROLMENT"),
+FrmPage6_1::FrmPage6_1(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page),
       gridPage6_2{{{*this, "gridPage6_2", N5Design(), 0}, {*this, "gridPage6_2", N4Design(), 1}}},
       grid191(*this, "grid191", N6Design(), 0),
       tables_{{{4, gridPage6_2[1]}, {5, gridPage6_2[0]}, {6, grid191}}},

@@ -12,7 +12,7 @@ namespace survey {
 // each measured against table 2.5.
 class FrmPage6_1 : public SurveyPage {
  public:
-  explicit FrmPage6_1(FormHost& host);
+  FrmPage6_1(FormHost& host, const PageRow& page);
 
   std::array<GridControl, 2> gridPage6_2;  // N5, N4
   GridControl grid191;                     // N6; its changes do not set the unsaved mark

@@ -8,7 +8,7 @@ namespace survey {
 // Table 3.8: students in NC(V) level 2.
 class FrmPage8 : public NcvPage {
  public:
-  explicit FrmPage8(FormHost& host) : NcvPage(host, "frmPage8") {}
+  FrmPage8(FormHost& host, const PageRow& page) : NcvPage(host, page) {}
 };
 
 }  // namespace survey

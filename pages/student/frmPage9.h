@@ -8,7 +8,7 @@ namespace survey {
 // Table 3.9: students in NC(V) level 3.
 class FrmPage9 : public NcvPage {
  public:
-  explicit FrmPage9(FormHost& host) : NcvPage(host, "frmPage9") {}
+  FrmPage9(FormHost& host, const PageRow& page) : NcvPage(host, page) {}
 };
 
 }  // namespace survey

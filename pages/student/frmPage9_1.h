@@ -8,7 +8,7 @@ namespace survey {
 // Table 3.10: students in NC(V) level 4.
 class FrmPage9_1 : public NcvPage {
  public:
-  explicit FrmPage9_1(FormHost& host) : NcvPage(host, "frmPage9_1") {}
+  FrmPage9_1(FormHost& host, const PageRow& page) : NcvPage(host, page) {}
 };
 
 }  // namespace survey

@@ -96,7 +96,7 @@ const CellTable& AgeRecords() {
 
 }  // namespace
 
-FrmPage9_10::FrmPage9_10(FormHost& host)
-    : YearOfBirthPage(host, "frmPage9_10", {AgeDesign(), AgeRecords(), {2, 3, 20, 28}}) {}
+FrmPage9_10::FrmPage9_10(FormHost& host, const PageRow& page)
+    : YearOfBirthPage(host, page, {AgeDesign(), AgeRecords(), {2, 3, 20, 28}}) {}
 
 }  // namespace survey

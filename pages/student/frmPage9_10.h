@@ -8,7 +8,7 @@ namespace survey {
 // Table 3.16: students of NC(V) Level 2 by year of birth and programme.
 class FrmPage9_10 : public YearOfBirthPage {
  public:
-  explicit FrmPage9_10(FormHost& host);
+  FrmPage9_10(FormHost& host, const PageRow& page);
 };
 
 }  // namespace survey

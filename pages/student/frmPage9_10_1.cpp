@@ -97,7 +97,7 @@ const CellTable& AgeRecords() {
 }  // namespace
 
 // The highlight leaves out the last programme, "Other", as it always has.
-FrmPage9_10_1::FrmPage9_10_1(FormHost& host)
-    : YearOfBirthPage(host, "frmPage9_10_1", {AgeDesign(), AgeRecords(), {2, 4, 11, 29}}) {}
+FrmPage9_10_1::FrmPage9_10_1(FormHost& host, const PageRow& page)
+    : YearOfBirthPage(host, page, {AgeDesign(), AgeRecords(), {2, 4, 11, 29}}) {}
 
 }  // namespace survey

@@ -8,7 +8,7 @@ namespace survey {
 // Table 3.17: students of all programmes by year of birth and gender.
 class FrmPage9_10_1 : public YearOfBirthPage {
  public:
-  explicit FrmPage9_10_1(FormHost& host);
+  FrmPage9_10_1(FormHost& host, const PageRow& page);
 };
 
 }  // namespace survey

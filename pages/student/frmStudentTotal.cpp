@@ -3,7 +3,6 @@
 namespace survey {
 namespace {
 
-constexpr char kTitle[] = "General Information";
 constexpr Color kGrey = Rgb(221, 221, 221);
 
 // clang-format off
@@ -141,8 +140,8 @@ const CellTable& Agreements() {
 
 }  // namespace
 
-FrmStudentTotal::FrmStudentTotal(FormHost& host)
-    : SurveyPage(host, "frmStudentTotal", kTitle),
+FrmStudentTotal::FrmStudentTotal(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page),
       Label4(*this, "Label4", "STUDENT TOTALS"),
       Label3(*this, "Label3",
              "For audit purposes, a college or campus must be able to provide the list of names "
@@ -161,7 +160,7 @@ FrmStudentTotal::FrmStudentTotal(FormHost& host)
   MarkChangesOf(gridAgreements);
 }
 
-void FrmStudentTotal::Form_Load() { Caption = survey().SurveyCaption(kTitle); }
+void FrmStudentTotal::Form_Load() { Caption = survey().SurveyCaption(row().caption); }
 
 Layout FrmStudentTotal::Body() {
   return ColumnOf({Place(Label4), Place(Label3), Place(Label2), Place(Label1),

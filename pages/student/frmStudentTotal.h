@@ -10,7 +10,7 @@ namespace survey {
 // these figures against another table.
 class FrmStudentTotal : public SurveyPage {
  public:
-  explicit FrmStudentTotal(FormHost& host);
+  FrmStudentTotal(FormHost& host, const PageRow& page);
 
   Label Label4;
   Label Label3;

@@ -148,9 +148,9 @@ const NcvLevel& LevelOf(std::string_view page) {
 
 }  // namespace
 
-NcvPage::NcvPage(FormHost& host, std::string_view name)
-    : SurveyPage(host, std::string(name), "STUDENT ENROLMENT"),
-      level_(LevelOf(name)),
+NcvPage::NcvPage(FormHost& host, const PageRow& page)
+    : SurveyPage(host, page),
+      level_(LevelOf(page.name)),
       design_(DesignOf(level_)),
       grid_(*this, level_.grid, design_, kGridIndex) {
   MarkChangesOf(grid_);

@@ -14,8 +14,8 @@ struct NcvLevel;
 // control table. The three levels are one page three times over.
 class NcvPage : public SurveyPage {
  protected:
-  // `name` is the form's; throws std::out_of_range for a form of no level.
-  NcvPage(FormHost& host, std::string_view name);
+  // Throws std::out_of_range for the row of a page of no level.
+  NcvPage(FormHost& host, const PageRow& page);
 
   Layout Body() override;
   void PlaceCursor() override;

@@ -2,10 +2,8 @@
 
 namespace survey {
 
-YearOfBirthPage::YearOfBirthPage(FormHost& host, std::string name, const YearOfBirthTable& table)
-    : SurveyPage(host, std::move(name), "STUDENT ENROLMENT"),
-      gridPage9_1(*this, "gridPage9_1", table.design),
-      table_(table) {
+YearOfBirthPage::YearOfBirthPage(FormHost& host, const PageRow& page, const YearOfBirthTable& table)
+    : SurveyPage(host, page), gridPage9_1(*this, "gridPage9_1", table.design), table_(table) {
   gridPage9_1.on_cell = [this](int, int row) { HighlightRow(row); };
   gridPage9_1.on_click = gridPage9_1.on_cell;  // of the first cell, where the cursor is already
   gridPage9_1.on_change = [this](int, int) {

@@ -19,7 +19,7 @@ struct YearOfBirthTable {
 // does not lose it; this yellow means nothing for saving.
 class YearOfBirthPage : public SurveyPage {
  public:
-  YearOfBirthPage(FormHost& host, std::string name, const YearOfBirthTable& table);
+  YearOfBirthPage(FormHost& host, const PageRow& page, const YearOfBirthTable& table);
 
   GridControl gridPage9_1;
 

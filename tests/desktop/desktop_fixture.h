@@ -10,7 +10,7 @@
 #include <string>
 
 #include "desktop_driver.h"
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "world.h"
 
@@ -38,7 +38,7 @@ class DesktopTest : public ::testing::Test {
     survey().CampusEmisNumber = 108107587;
     survey().SurveyYear = 2012;
     survey().OpenDatabaseConnection();
-    desktop_->host().Get("frmMainMenu").EditMode = "Edit";
+    desktop_->host().Get("frmMainMenu").Property("EditMode") = "Edit";
     desktop_->host().Start(form);
   }
 

@@ -5,8 +5,8 @@
 #include <set>
 
 #include "desktop_fixture.h"
+#include "filled_survey.h"
 #include "form_inspector.h"
-#include "forms/page_chain.h"
 
 namespace survey::testing {
 namespace {
@@ -18,15 +18,14 @@ class EveryFormTest : public DesktopTest {
   // Each form in turn in front, in a window of that size.
   template <typename Inspect>
   void ForEachForm(QSize window, Inspect inspect) {
-    std::set<std::string> names = {"frmSelectDatabase",  "frmDatabase", "frmSelectCollege",
-                                   "frmMainMenu",        "frmAbout",    "frmAddSubjects",
-                                   "frmAddQualification"};
-    for (const Link& link : PageChain()) names.emplace(link.page);
+    std::set<std::string> names = {"frmSelectDatabase",   "frmDatabase",      "frmSelectCollege",
+                                   "frmMainMenu",         "frmAbout",         "frmAddSubjects",
+                                   "frmAddQualification", "frmSelectEducator"};
+    for (const PageRow& page : desktop_->host().pages()) names.emplace(page.name);
     if (!survey().DatabaseConnection) OpenSiteAt("frmMainMenu");
     for (const std::string& name : names) {
       Form& form = desktop_->host().Get(name);
-      form.EducatorId = "8001015009087";
-      form.FormMode = "New";
+      testing::ChooseStaffMember(form, "8001015009087", "New");
       desktop_->host().Start(name);
       desktop_->view().window().resize(window);
       QCoreApplication::processEvents();

@@ -10,8 +10,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_printer.h"
 #include "filled_survey.h"
-#include "pages/register_pages.h"
-#include "printing/staff_print.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "world.h"
 
@@ -41,7 +40,7 @@ class FilledSurvey : public World, public ::testing::Test {
     RegisterShell(host_);
     RegisterPages(host_);
     OpenSite(199010830, 108107587);
-    host_.Get("frmMainMenu").EditMode = "Edit";
+    host_.Get("frmMainMenu").Property("EditMode") = "Edit";
     host_.Start("frmMainMenu");
     survey.SurveyYear = 2010;
     campus_ = FillCampus(host_, figures_);
@@ -81,7 +80,7 @@ TEST_F(FilledSurvey, EveryAnswerAndTotalOfTheCampusStandsOnItsSheet) {
   for (const FilledPage& page : campus_) {
     Sheet& on = page.page == "frmOtherProgrammes" ? other[0] : *sheet++;
     EXPECT_GT(on["108107587"], 0) << page.page << " bears the campus number";
-    ExpectOn(on, page, PrintOf(page.page).grids);
+    ExpectOn(on, page, host_.PageOf(page.page).paper.grids);
   }
   EXPECT_TRUE(dialogs.seen.empty());
 }
@@ -101,9 +100,10 @@ TEST_F(FilledSurvey, EveryAnswerOfEachStaffMemberStandsOnTheSheetOfItsPage) {
     const std::string id = list.Find<GridControl>("gridEducator").GetText(2, row);
     EXPECT_GE((*sheet)[QString::fromStdString(id)], 2) << "the head and question 4.11";
     auto page = filled.at(id).begin();
-    for (const StaffSheet& part : StaffSheets()) {
-      ExpectOn(*sheet, *page++, part.grids, id);
-      if (part.ends_sheet) ++sheet;
+    for (const PageRow& part : host_.pages()) {
+      if (!part.staff_print) continue;
+      ExpectOn(*sheet, *page++, part.staff_print->grids, id);
+      if (part.staff_print->ends_sheet) ++sheet;
     }
     ++sheet;
   }

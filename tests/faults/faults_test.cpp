@@ -3,7 +3,6 @@
 #include "hostile_texts.h"
 #include "kill_saves.h"
 #include "misfortunes.h"
-#include "random_user.h"
 
 namespace survey::testing {
 namespace {
@@ -39,14 +38,6 @@ TEST(FaultsTest, ATextRunsNothingButItsOwnStatement) {
   EXPECT_GT(typed.came_back, 30);
   EXPECT_GT(typed.told, 0);
   EXPECT_EQ(EnterHostileTexts().fault, "");
-}
-
-TEST(FaultsTest, ARandomUserSeesWhatASimpleTwinOfTheSurveySays) {
-  for (std::uint32_t seed = 1; seed <= 4; ++seed) {
-    const RandomUserReport report = RunRandomUser(seed, 500);
-    EXPECT_EQ(report.fault, "") << "seed " << seed << "\n" << report.last_actions;
-    EXPECT_GT(report.typed, 50);
-  }
 }
 
 }  // namespace

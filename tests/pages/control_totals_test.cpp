@@ -73,11 +73,18 @@ TEST_F(ControlTotalsOfPages, TheColourStaysUntilTheSaveAndTheControlTotalUntilTh
   EXPECT_EQ(Total(), kLockedGrey);
 }
 
+std::vector<std::pair<std::string, Reconciliation>> Reconciliations() {
+  std::vector<std::pair<std::string, Reconciliation>> rows;
+  for (const PageRow& page : SurveyPages()) {
+    for (const Reconciliation& row : page.totals) rows.emplace_back(page.name, row);
+  }
+  return rows;
+}
+
 // Whatever the page: what is painted is a sum that the grid holds, and it is red at once where
 // only table 2.5 is filled.
 TEST_F(ControlTotalsOfPages, EveryReconciledCellIsATotalOfItsGrid) {
-  for (const Reconciliation& row : Reconciliations()) {
-    const std::string page(row.page);
+  for (const auto& [page, row] : Reconciliations()) {
     Register("101,202," + std::to_string(row.code) + ",2012,5");
     host.Unload(host.Get(page));
     host.Start(page);

@@ -25,8 +25,8 @@ class EducatorData : public PageTest {
  protected:
   EducatorData() : PageTest(kPage, "gridgeneral") { host.Start("frmSelectEducator"); }
   void Open(const std::string& id, const char* mode) {
-    host.Get(kPage).EducatorId = id;
-    host.Get(kPage).FormMode = mode;
+    host.Get(kPage).Property("EducatorId") = id;
+    host.Get(kPage).Property("FormMode") = mode;
     Reopen();
   }
   void Fill(const std::vector<Typed>& answers) { PageTest::Fill(Table(), answers); }
@@ -180,7 +180,7 @@ TEST_F(EducatorData, BackAsksItsOwnQuestionAndNextAsksNothing) {
   EXPECT_TRUE(Unsaved());
   Click("cmdNext");
   EXPECT_TRUE(dialogs.seen.empty());
-  EXPECT_EQ(Front() + host.Front()->EducatorId, "frmLecQualifications18001");
+  EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), "frmLecQualifications18001");
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ class EducatorTeaching2 : public PageTest {
  protected:
   EducatorTeaching2() : PageTest(kPage, "gridFields") { Open("8001"); }
   void Open(const std::string& id) {
-    host.Get(kPage).EducatorId = id;
+    host.Get(kPage).Property("EducatorId") = id;
     dialogs.seen.clear();
     Reopen();
   }
@@ -70,7 +70,7 @@ TEST_F(EducatorTeaching2, NothingAsksOnTheWayOn) {
   Type(6, 3, "2");
   Click("cmdNext");
   EXPECT_TRUE(dialogs.seen.empty());
-  EXPECT_EQ(Front() + host.Front()->EducatorId, "frmEducatorTeaching8001");
+  EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), "frmEducatorTeaching8001");
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ class LecQualifications : public PageTest {
   LecQualifications() : PageTest(kFirst, "gridQual") {}
   GridControl& Open(const std::string& page, const std::string& id = "8001") {
     host.Unload(host.Get(page));
-    host.Get(page).EducatorId = id;
+    host.Get(page).Property("EducatorId") = id;
     host.Start(page);
     statements.clear();
     return The<GridControl>(page, "gridQual");
@@ -82,7 +82,7 @@ TEST_F(LecQualifications, TheHalvesLeadToEachOtherAndToTheList) {
   EXPECT_EQ(Front(), kFirst);
   dialogs.answers = {kAnswerYes};
   Click("cmdNext");
-  EXPECT_EQ(Front() + host.Front()->EducatorId, std::string(kSecond) + "8001");
+  EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), std::string(kSecond) + "8001");
   The<GridControl>(kSecond, "gridQual").Type(2, 19, "typed");  // not known as a change
   World::Click(kSecond, "cmdPrintPage");
   EXPECT_EQ(printer.operations.at(4), "Print \" Staff Details:  8001\"");

@@ -38,7 +38,8 @@ class SelectEducator : public PageTest {
   // The page that a button opens, whose it is and how.
   std::string Opens(const char* button) {
     Click(button);
-    return Front() + " " + host.Front()->EducatorId + " " + host.Front()->FormMode;
+    const auto* mode = host.Front()->FindProperty<std::string>("FormMode");
+    return Front() + " " + host.Front()->Property("EducatorId") + " " + (mode ? *mode : "");
   }
 };
 
@@ -75,7 +76,7 @@ TEST_F(SelectEducator, OpensThePagesOfTheSelectedAndForgetsThemOnReturn) {
   Reopen();
   Table().Click(3, 1);  // "0" is a number like any other
   EXPECT_EQ(Opens("cmdEdit"), "frmEducatorData 0 Edit");
-  EXPECT_EQ(host.Front()->EmisNumber, 101);
+  EXPECT_EQ(host.Front()->Property<double>("EmisNumber"), 101);
   World::Click("frmEducatorData", "cmdPrevious");
   EXPECT_EQ(Answer("cmdSpecialisation"), kNobody);
   Table().Click(1, 2);
@@ -141,9 +142,9 @@ TEST_F(SelectEducator, AFailureEndsTheHandlerAndNotTheProgram) {
   RunScript("alter table tbl_StaffDetail rename to gone_too");
   Reopen();
   EXPECT_THAT(LastBox(), ToldBy("frmSelectSchool", "Load Schools Routine"));
-  host.Get("frmMainMenu").EditMode = "Add";
+  host.Get("frmMainMenu").Property("EditMode") = "Add";
   Click("cmdMenu");
-  EXPECT_EQ(Front() + host.Front()->EditMode, "frmMainMenuEdit");
+  EXPECT_EQ(Front() + host.Front()->Property("EditMode"), "frmMainMenuEdit");
 }
 
 }  // namespace

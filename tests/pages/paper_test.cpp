@@ -3,9 +3,8 @@
 #include <numeric>
 
 #include "filled_survey.h"
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "printing/page_print.h"
-#include "printing/staff_print.h"
 #include "world.h"
 
 namespace survey::testing {
@@ -52,22 +51,20 @@ class Paper : public World, public ::testing::Test {
 };
 
 TEST_F(Paper, HoldsEveryTableOfThePages) {
-  std::vector<const char*> pages(std::begin(kCampusPages), std::end(kCampusPages));
-  pages.insert(pages.end(), std::begin(kStaffPages), std::end(kStaffPages));
-  for (const char* page : pages) {
-    const PagePrint& print = PrintOf(page);
-    if (print.landscape) std::swap(right_, bottom_);
-    Put(page, print.grids);
+  for (const PageRow& page : host.pages()) {
+    if (page.paper.landscape) std::swap(right_, bottom_);
+    Put(page.name, page.paper.grids);
     NextSheet();
     // The paper stays turned for what is printed later in a run, but not in another one.
-    if (print.landscape) right_ = bottom_ = kShortSide - kMargin;
+    if (page.paper.landscape) right_ = bottom_ = kShortSide - kMargin;
   }
 }
 
 TEST_F(Paper, HoldsEveryTableOfAStaffMember) {
-  for (const StaffSheet& sheet : StaffSheets()) {
-    Put(sheet.page, sheet.grids);
-    if (sheet.ends_sheet) NextSheet();
+  for (const PageRow& page : host.pages()) {
+    if (!page.staff_print) continue;
+    Put(page.name, page.staff_print->grids);
+    if (page.staff_print->ends_sheet) NextSheet();
   }
 }
 

@@ -43,7 +43,7 @@ class SubjectPages : public World, public ::testing::Test {
     host.Unload(host.Get(page_));
     page_ = page;
     host.Unload(host.Get(page));
-    host.Get(page).EducatorId = id;
+    host.Get(page).Property("EducatorId") = id;
     statements.clear();
     host.Start(page);
   }
@@ -223,12 +223,12 @@ TEST_F(SubjectPages, OnlyTheWayForwardAsks) {
     EXPECT_EQ(Front(), page);
     dialogs.answers = {kAnswerYes};
     Press("cmdForward");
-    EXPECT_EQ(Front() + host.Front()->EducatorId, ahead + std::string("8002"));
+    EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), ahead + std::string("8002"));
     Open(page, "8003");
     Lines().Type(3, 2, "1");
     dialogs.seen.clear();
     Press("cmdNext");
-    EXPECT_EQ(Front() + host.Front()->EducatorId, aside + std::string("8003"));
+    EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), aside + std::string("8003"));
     EXPECT_THAT(dialogs.seen, IsEmpty());
   }
 }

@@ -27,7 +27,7 @@ class SurveyPrint : public PageTest {
 
   void OpenMenu() {
     host.Unload(host.Get(kList));
-    host.Get(kMenu).EditMode = "Edit";
+    host.Get(kMenu).Property("EditMode") = "Edit";
     host.Start(kMenu);
     The<TextBox>(kMenu, "txtColEmis").Text = "101";
     The<TextBox>(kMenu, "txtCamEmis").Text = "202";
@@ -133,9 +133,9 @@ TEST_F(SurveyPrint, PrintsTheSixPagesOfTheSelectedAsOneJob) {
                   "Draw gridmonths 300 1200" + rest, "Draw gridSubjects 300 3000" + rest, "NewPage",
                   "Draw gridFields 300 1200" + rest, "EndDoc"));
   ExpectNothingLoadedBut(kList);
-  EXPECT_EQ(host.Get("frmEducatorData").EducatorId, "");
+  EXPECT_EQ(host.Get("frmEducatorData").Property("EducatorId"), "");
   Click("cmdEdit");  // still selected
-  EXPECT_EQ(host.Front()->EducatorId, "7501");
+  EXPECT_EQ(host.Front()->Property("EducatorId"), "7501");
 }
 
 TEST_F(SurveyPrint, PrintsAllStaffInOneJobWithoutThoseWhoHaveNoId) {
@@ -178,7 +178,7 @@ TEST_F(SurveyPrint, NobodySelectedOrAFailureOfOnePageIsTold) {
   EXPECT_EQ(std::tuple(CountOf("NewPage"), CountOf("EndDoc")), std::tuple(5, 0));
   ExpectNothingLoadedBut(kList);
   Click("cmdEdit");  // whose print failed is selected
-  EXPECT_EQ(host.Front()->EducatorId, "7502");
+  EXPECT_EQ(host.Front()->Property("EducatorId"), "7502");
   host.CloseBox(*host.Front());
   printer.cancel = true;
   Click("cmdPrint");

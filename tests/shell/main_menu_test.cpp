@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "world.h"
 
@@ -26,6 +27,7 @@ class MainMenu : public World, public ::testing::Test {
  protected:
   MainMenu() {
     RegisterShell(host);
+    RegisterPages(host);
     OpenSite(0, 0);
     survey.SurveyYear = 0;
   }
@@ -147,18 +149,11 @@ TEST_F(MainMenu, OptionsAndCombosClearWhatNoLongerHolds) {
 }
 
 TEST_F(MainMenu, LinksTestTheSiteAndLeaveTheMenu) {
-  struct Page : Form {
-    using Form::Form;
-    Layout Arrange() override { return Space(); }
-  };
-  host.Register("frmPage2", [](FormHost& maker) {
-    return std::make_unique<Page>(maker, "frmPage2", "General Information");
-  });
   StartAdding();
   Click(kMenu, "cmdList");
   Click(kList, "cmdContinue");
   EXPECT_EQ(LastBox(), "Please select a college or campus to continue");
-  host.Get(kMenu).EditMode = "Edit";
+  host.Get(kMenu).Property("EditMode") = "Edit";
   host.Start(kMenu);
   for (const char* needs_site : {"cmdGeneral", "cmdHostel", "cmdStafffSummary"}) {
     Click(kMenu, needs_site);

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "world.h"
 

@@ -4,7 +4,8 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "pages/register_pages.h"
+#include "filled_survey.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 
 namespace survey::testing {
@@ -159,9 +160,7 @@ Form& FilledSite::Open(const std::string& page, const std::string& staff_member)
   Form& form = host.Get(page);
   host.Unload(form);
   survey.OpenDatabaseConnection();  // some pages work on what the one before them has left open
-  form.EducatorId = staff_member;
-  form.EmisNumber = survey.CollegeEmisNumber;
-  form.FormMode = "Edit";
+  ChooseStaffMember(form, staff_member);
   host.Start(page);
   return form;
 }

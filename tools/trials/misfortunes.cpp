@@ -12,7 +12,6 @@
 
 #include "disk_faults.h"
 #include "findings.h"
-#include "forms/page_rules.h"
 
 namespace survey::testing {
 namespace {
@@ -121,21 +120,22 @@ void CheckSaveBoxes(FilledSite& site, const Misfortune& misfortune, const SavedP
   if (seen.empty()) return;
   findings.Require(seen.front().prompt.find(misfortune.told_when_saving) != std::string::npos,
                    "told when saving: " + seen.front().prompt);
-  const ErrorName& name = RulesOf(part.page).save;
+  const ErrorName& name = site.host.PageOf(part.page).errors.save;
   if (*name.location) {
     findings.Require(seen.back().prompt.ends_with(EndOfBox(name)), "told: " + seen.back().prompt);
   }
 }
 
-void CheckOpeningBoxes(const std::vector<MessageBox>& seen, const Misfortune& misfortune,
+void CheckOpeningBoxes(const FilledSite& site, const Misfortune& misfortune,
                        const std::string& page, Findings& findings) {
+  const std::vector<MessageBox>& seen = site.dialogs.seen;
   findings.Require(!seen.empty(), "an opening that fails is not told");
   if (seen.empty()) return;
   const std::string& first = seen.front().prompt;
   findings.Require(first.find(misfortune.told_when_opening) != std::string::npos &&
                        first.ends_with(EndOfBox(kOpening)),
                    "told when opening: " + first);
-  const ErrorName& name = RulesOf(page).activate;
+  const ErrorName& name = site.host.PageOf(page).errors.activate;
   if (*name.location && !IsSilent(page)) {
     findings.Require(seen.back().prompt.ends_with(EndOfBox(name)), "told: " + seen.back().prompt);
   }
@@ -204,7 +204,7 @@ std::string MeetMisfortune(const Misfortune& misfortune, const SavedPart& part) 
   if (misfortune.told_when_opening == nullptr) return findings.first();
   misfortune.begin(file);
   site.Open(part.page);
-  CheckOpeningBoxes(site.dialogs.seen, misfortune, part.page, findings);
+  CheckOpeningBoxes(site, misfortune, part.page, findings);
   findings.Require(site.host.Ended() == (part.page == "frmPage12_2"), "ended when opening, or not");
   misfortune.end(file);
   findings.Require(AllRows(file) == after, "something that was saved is lost by opening");

@@ -26,7 +26,7 @@
 #include "filled_site.h"
 #include "findings.h"
 #include "hand_inputs.h"
-#include "pages/register_pages.h"
+#include "pages/survey_pages.h"
 #include "shell/register_shell.h"
 #include "shown_form.h"
 #include "store/connection.h"
