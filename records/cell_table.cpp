@@ -48,14 +48,14 @@ void InsertCell(Survey& survey, const CellTable& table, const Grid& grid, Cell c
                 std::optional<int> code) {
   const std::string& text = grid.GetText(cell.column, cell.row);
   if (!IsFilled(table, text)) return;
-  std::string statement = table.insert;
-  char separator = '(';
-  for (const InsertValue& value : table.values) {
-    statement += separator;
-    statement += NumberText(NumberOf(value, survey, table, cell, text, code));
-    separator = ',';
+  std::string columns;
+  std::string values;
+  for (const auto& [name, value] : table.values) {
+    const char separator = columns.empty() ? '(' : ',';
+    (columns += separator) += name;
+    (values += separator) += NumberText(NumberOf(value, survey, table, cell, text, code));
   }
-  survey.Execute(statement + ")");
+  survey.Execute(table.insert + columns + ")VALUES" + values + ")");
 }
 
 }  // namespace

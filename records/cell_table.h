@@ -47,6 +47,12 @@ constexpr InsertValue RowCode(int which = 0) { return {InsertValue::Kind::kRowCo
 constexpr InsertValue ColumnCode(int which = 0) { return {InsertValue::Kind::kColumnCode, which}; }
 constexpr InsertValue Constant(int number) { return {InsertValue::Kind::kConstant, number}; }
 
+// A column of the store's table and what an INSERT puts there.
+struct InsertColumn {
+  const char* name;
+  InsertValue value;
+};
+
 // Which cells count as filled when a table is stored.
 enum class Filled {
   kNotEmpty,  // a typed 0 is stored
@@ -60,12 +66,12 @@ enum class Walk { kRowByRow, kColumnByColumn };
 struct CellTable {
   std::string select;  // up to the college number
   std::string remove;  // up to the college number
-  std::string insert;  // up to the bracket before the values
+  std::string insert;  // up to the bracket before the columns
   CellRange body;      // the cells that are stored
   Walk walk;           // in which order
   Axis rows;
   Axis columns;
-  std::vector<InsertValue> values;
+  std::vector<InsertColumn> values;
   std::string select_tail = {};
   std::string remove_tail = {};
   Filled filled = Filled::kNotEmpty;

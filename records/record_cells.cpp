@@ -1,21 +1,61 @@
 #include "records/record_cells.h"
 
+#include <algorithm>
+#include <stdexcept>
+
+#include "base/run_time_error.h"
 #include "base/text.h"
 #include "store/dialect.h"
 
 namespace survey {
 namespace {
 
-std::string TextFor(const std::string& text, CellAs as) {
-  switch (as) {
+Cell Below(Cell cell) { return {cell.column, cell.row + 1}; }
+
+const std::string& TextOf(const Grid& grid, Cell cell) {
+  return grid.GetText(cell.column, cell.row);
+}
+
+void Show(const Value& value, const Answer& answer, Grid& grid) {
+  const Cell first = answer.shown;
+  if (answer.as != CellAs::kNumberAndName) {
+    grid.SetText(first.column, first.row, value.Text());
+    return;
+  }
+  if (value.IsNull()) return;
+  const std::string text = value.Text();
+  const auto blank = text.find(' ');
+  const bool has_blank = blank != std::string::npos;
+  const Cell name = Below(first);
+  grid.SetText(name.column, name.row, has_blank ? text.substr(blank + 1) : text);
+  if (!has_blank) throw InvalidProcedureCall();
+  grid.SetText(first.column, first.row, text.substr(0, blank));
+}
+
+std::string ValueOf(const Answer& answer, const Grid& grid) {
+  const std::string& text = TextOf(grid, answer.cell);
+  switch (answer.as) {
     case CellAs::kText:
-      return SqlEscape(text);
+      return "'" + SqlEscape(text) + "'";
+    case CellAs::kQuoted:
+      return "'" + text + "'";
+    case CellAs::kBare:
+      return text;
     case CellAs::kNumber:
       return NumberText(LeadingNumber(text));
-    case CellAs::kRaw:
-      break;
+    case CellAs::kDate:
+      return "#" + text + "#";
+    case CellAs::kNumberAndName:
+      return "'" + text + " " + SqlEscape(TextOf(grid, Below(answer.cell))) + "'";
   }
-  return text;
+  throw std::logic_error("an answer of no kind");
+}
+
+// The column that a piece of an UPDATE names: the only word in it.
+std::string_view WordIn(std::string_view piece) {
+  constexpr std::string_view kAround = " ,=";
+  piece.remove_prefix(std::min(piece.find_first_not_of(kAround), piece.size()));
+  return piece.substr(0, piece.find_first_of(kAround));
 }
 
 }  // namespace
@@ -26,13 +66,37 @@ void ShowFields(const Recordset& record, const std::vector<FieldCell>& fields, G
   }
 }
 
-std::string JoinPieces(const std::vector<StatementPiece>& pieces, const Grid& grid) {
-  std::string statement;
-  for (const auto& [literal, cell, as] : pieces) {
-    statement += literal;
-    statement += TextFor(grid.GetText(cell.column, cell.row), as);
+void ShowAnswers(const Recordset& record, std::span<const Answer> answers, Grid& grid) {
+  for (const Answer& answer : answers) Show(record.Field(answer.column), answer, grid);
+}
+
+std::string ColumnsOf(std::span<const Answer> answers) {
+  std::string columns;
+  for (const Answer& answer : answers) (columns += columns.empty() ? "" : ",") += answer.column;
+  return columns;
+}
+
+std::string ValuesOf(std::span<const Answer> answers, const Grid& grid) {
+  std::string values;
+  for (const Answer& answer : answers) {
+    if (&answer != &answers.front()) values += ',';
+    values += ValueOf(answer, grid);
   }
-  return statement;
+  return values;
+}
+
+std::string Assignments(const std::vector<const char*>& pieces, std::span<const Answer> answers,
+                        const Grid& grid) {
+  std::string assignments;
+  for (const char* piece : pieces) {
+    const auto answer = std::ranges::find_if(answers, [piece](const Answer& candidate) {
+      return EqualsIgnoringCase(candidate.column, WordIn(piece));
+    });
+    if (answer == answers.end()) throw std::out_of_range(std::string("no answer for") + piece);
+    assignments += piece;
+    assignments += ValueOf(*answer, grid);
+  }
+  return assignments;
 }
 
 }  // namespace survey

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "pages/institution/street.h"
 #include "records/record_cells.h"
 #include "store/dialect.h"
 
@@ -12,7 +11,7 @@ namespace survey {
 namespace {
 
 constexpr auto kText = CellAs::kText;
-constexpr auto kRaw = CellAs::kRaw;
+constexpr auto kQuoted = CellAs::kQuoted;
 
 constexpr int kSetaYear = 2012;  // of accreditations, whatever the survey year is
 constexpr int kHostelRows = 5;
@@ -146,42 +145,24 @@ int SetaIdFromName(std::string_view name) {
 }
 
 // clang-format off
-const std::vector<FieldCell> kBeforeStreet = {{"hostelname", kName},
-                                              {"Physical_Building", kBuilding}};
-const std::vector<FieldCell> kBehindStreet = {
-    {"Physical_City", kTown},  {"Physical_Code", kPostalCode},  {"telephone", kTelephone},
-    {"facsimile", kFax},       {"GISLong", kLongitude},         {"GISLat", kShownLatitude},
+// In the order of the INSERT.
+const std::vector<Answer> kAnswers = {
+    {"HostelName", kName, kText},
+    {"Physical_Building", kBuilding, kText},
+    {"Physical_street", kStreetNumber, CellAs::kNumberAndName},
+    {"Physical_city", kTown, kQuoted},
+    {"Physical_Code", kPostalCode, kQuoted},
+    {"Telephone", kTelephone, kQuoted},
+    {"Facsimile", kFax, kQuoted},
+    {"GISLat", kLatitude, kQuoted, kShownLatitude},
+    {"GISlong", kLongitude, kQuoted},
 };
-
-// What a new hostel clears; the latitude that is saved stays.
-constexpr Cell kCleared[] = {kName,       kBuilding,  kStreetNumber, kStreetName, kTown,
-                             kPostalCode, kTelephone, kFax,          kLongitude,  kShownLatitude};
-
-// Behind the site's numbers and the survey year.
-const std::vector<StatementPiece> kInsertValues = {
-    {",'", kName, kText},
-    {"','", kBuilding, kText},
-    {"','", kStreetNumber, kRaw},
-    {" ", kStreetName, kText},
-    {"','", kTown, kRaw},
-    {"','", kPostalCode, kRaw},
-    {"','", kTelephone, kRaw},
-    {"','", kFax, kRaw},
-    {"','", kLatitude, kRaw},
-    {"','", kLongitude, kRaw},
+// The postal code, which has a column of its own here, comes between.
+const std::vector<const char*> kUpdateBeforeCode = {
+    "Hostelname = ", ",physical_building =", ",physical_Street = ", ",physical_city = ",
 };
-const std::vector<StatementPiece> kUpdate = {
-    {"UPDATE tbl_Hostels set Hostelname = '", kName, kText},
-    {"',physical_building ='", kBuilding, kText},
-    {"',physical_Street = '", kStreetNumber, kRaw},
-    {" ", kStreetName, kText},
-    {"',physical_city = '", kTown, kRaw},
-    {"',physicalcode ='", kPostalCode, kRaw},
-    {"',telephone ='", kTelephone, kRaw},
-    {"',facsimile = '", kFax, kRaw},
-    {"',GISlat = '", kLatitude, kRaw},
-    {"',GISLong ='", kLongitude, kRaw},
-    {"' WHERE hostelname = '", kName, kText},
+const std::vector<const char*> kUpdateBehindCode = {
+    ",telephone =", ",facsimile = ", ",GISlat = ", ",GISLong =",
 };
 // clang-format on
 
@@ -280,9 +261,7 @@ void FrmHostels::ShowHostel(const std::string& escaped_name) {
                   " and hostelname = '" + escaped_name + "'",
               survey().DatabaseConnection.get());
   if (hostel.Eof()) return;
-  ShowFields(hostel, kBeforeStreet, gridGeneralInfo);
-  ShowStreet(hostel.Field("physical_street"), kStreetNumber, kStreetName, gridGeneralInfo);
-  ShowFields(hostel, kBehindStreet, gridGeneralInfo);
+  ShowAnswers(hostel, kAnswers, gridGeneralInfo);
 }
 
 // A hostel is known by its name alone: a changed name makes a new one, and a change reaches the
@@ -303,16 +282,24 @@ void FrmHostels::SaveHostel() {
         "Physical_Building,Physical_street,Physical_city,Physical_Code,Telephone, Facsimile,GISLat,"
         "GISlong)VALUES (" +
         NumberText(survey().CollegeEmisNumber) + "," + NumberText(survey().CampusEmisNumber) + "," +
-        NumberText(survey().SurveyYear) + JoinPieces(kInsertValues, gridGeneralInfo) + "')");
+        NumberText(survey().SurveyYear) + "," + ValuesOf(kAnswers, gridGeneralInfo) + ")");
   } else {
-    survey().Execute(JoinPieces(kUpdate, gridGeneralInfo) + "'");
+    survey().Execute(
+        "UPDATE tbl_Hostels set " + Assignments(kUpdateBeforeCode, kAnswers, gridGeneralInfo) +
+        ",physicalcode ='" + gridGeneralInfo.GetText(kPostalCode.column, kPostalCode.row) + "'" +
+        Assignments(kUpdateBehindCode, kAnswers, gridGeneralInfo) + " WHERE hostelname = '" +
+        SqlEscape(name) + "'");
   }
   cmdSaveHostel.BackColor = kButtonFace;
   FillHostelList();
 }
 
+// The latitude that is saved stays.
 void FrmHostels::ClearHostel() {
-  for (const Cell& cell : kCleared) gridGeneralInfo.SetText(cell.column, cell.row, "");
+  for (const Answer& answer : kAnswers) {
+    gridGeneralInfo.SetText(answer.shown.column, answer.shown.row, "");
+  }
+  gridGeneralInfo.SetText(kStreetName.column, kStreetName.row, "");
 }
 
 void FrmHostels::DeleteHostel() {

@@ -1,14 +1,13 @@
 #include "pages/institution/frmPage2.h"
 
 #include "base/text.h"
-#include "pages/institution/street.h"
 #include "records/record_cells.h"
 
 namespace survey {
 namespace {
 
 constexpr auto kText = CellAs::kText;
-constexpr auto kRaw = CellAs::kRaw;
+constexpr auto kQuoted = CellAs::kQuoted;
 constexpr auto kNumber = CellAs::kNumber;
 
 constexpr Cell kCampusName{5, 5};
@@ -195,45 +194,28 @@ const std::vector<FieldCell> kIdentity = {
     {"Collegename", {5, 4}},  {"CampusName", kCampusName},
     {"ProvinceCD", {12, 6}},  {"sitetype", {11, 3}},
 };
-const std::vector<FieldCell> kBeforeStreet = {
-    {"Postal_box", {4, 3}},   {"Postal_bag", {4, 4}},   {"Postal_office", {4, 5}},
-    {"Postal_city", {4, 6}},  {"Postal_Code", {7, 6}},  {"Physical_Building", {4, 8}},
+const std::vector<Answer> kAnswers = {
+    {"Postal_box", {4, 3}, kText},      {"Postal_bag", {4, 4}, kText},
+    {"Postal_office", {4, 5}, kText},   {"Postal_city", {4, 6}, kText},
+    {"Postal_Code", {7, 6}, kQuoted},   {"Physical_Building", {4, 8}, kText},
+    {"Physical_Street", kStreetNumber, CellAs::kNumberAndName},
+    {"Physical_City", kTown, kText},    {"Physical_Code", {7, 11}, kQuoted},
+    {"Cellphone", {5, 18}, kQuoted},    {"email", {4, 15}, kText},
+    {"website", {4, 16}, kText},        {"MISSystem", kHasMis, kNumber},
+    {"MISProgramme", {7, 20}, kNumber}, {"MISProgrammeOther", {3, 22}, kText},
+    {"MISManagerName", {5, 25}, kText}, {"Municipalarea", {4, 12}, kText},
+    {"Manager", kManager, kText},       {"Telephone", {4, 13}, kQuoted},
+    {"Facsimile", {7, 13}, kQuoted},    {"MISTelephone", {4, 26}, kText},
+    {"MISFacsimile", {7, 26}, kText},   {"MISEmail", {4, 27}, kText},
+    {"MISYear", {7, 23}, kQuoted},
 };
-const std::vector<FieldCell> kBehindStreet = {
-    {"Physical_City", kTown},  {"Physical_Code", {7, 11}},      {"municipalarea", {4, 12}},
-    {"telephone", {4, 13}},    {"facsimile", {7, 13}},          {"email", {4, 15}},
-    {"website", {4, 16}},      {"Manager", kManager},           {"Cellphone", {5, 18}},
-    {"MISSystem", kHasMis},    {"MISProgramme", {7, 20}},       {"MISProgrammeOther", {3, 22}},
-    {"MISYear", {7, 23}},      {"MISManagerName", {5, 25}},     {"MIStelephone", {4, 26}},
-    {"MISfacsimile", {7, 26}}, {"MISemail", {4, 27}},
-};
-
-const std::vector<StatementPiece> kUpdate = {
-    {"UPDATE tbl_GeneralInformation set Postal_box = '", {4, 3}, kText},
-    {"',Postal_bag = '", {4, 4}, kText},
-    {"',Postal_office = '", {4, 5}, kText},
-    {"',Postal_city = '", {4, 6}, kText},
-    {"',Postal_Code = '", {7, 6}, kRaw},
-    {"', Physical_Building = '", {4, 8}, kText},
-    {"', Physical_Street = '", kStreetNumber, kRaw},
-    {" ", kStreetName, kText},
-    {"',Physical_City = '", kTown, kText},
-    {"',Physical_Code = '", {7, 11}, kRaw},
-    {"', Cellphone = '", {5, 18}, kRaw},
-    {"',email = '", {4, 15}, kText},
-    {"',website = '", {4, 16}, kText},
-    {"', MISSystem = ", kHasMis, kNumber},
-    {",MISProgramme = ", {7, 20}, kNumber},
-    {", MISProgrammeOther = '", {3, 22}, kText},
-    {"', MISManagerName = '", {5, 25}, kText},
-    {"',Municipalarea = '", {4, 12}, kText},
-    {"', Manager = '", kManager, kText},
-    {"',Telephone = '", {4, 13}, kRaw},
-    {"',Facsimile = '", {7, 13}, kRaw},
-    {"', MISTelephone = '", {4, 26}, kText},
-    {"',MISFacsimile = '", {7, 26}, kText},
-    {"',MISEmail= '", {4, 27}, kText},
-    {"',MISYear = '", {7, 23}, kRaw},
+const std::vector<const char*> kUpdate = {
+    "Postal_box = ", ",Postal_bag = ", ",Postal_office = ", ",Postal_city = ", ",Postal_Code = ",
+    ", Physical_Building = ", ", Physical_Street = ", ",Physical_City = ", ",Physical_Code = ",
+    ", Cellphone = ", ",email = ", ",website = ", ", MISSystem = ", ",MISProgramme = ",
+    ", MISProgrammeOther = ", ", MISManagerName = ", ",Municipalarea = ", ", Manager = ",
+    ",Telephone = ", ",Facsimile = ", ", MISTelephone = ", ",MISFacsimile = ", ",MISEmail= ",
+    ",MISYear = ",
 };
 // clang-format on
 
@@ -268,9 +250,7 @@ void FrmPage2::GetPage() {
             survey().DatabaseConnection.get());
   if (site.Eof()) return;
   ShowFields(site, kIdentity, gridPage2_1);
-  ShowFields(site, kBeforeStreet, gridGeneralInfo);
-  ShowStreet(site.Field("Physical_street"), kStreetNumber, kStreetName, gridGeneralInfo);
-  ShowFields(site, kBehindStreet, gridGeneralInfo);
+  ShowAnswers(site, kAnswers, gridGeneralInfo);
   if (!site.Field("MISManagerName").IsEmpty()) {
     gridGeneralInfo.SetText(kHasMisManager.column, kHasMisManager.row, 1);
   }
@@ -295,8 +275,9 @@ bool FrmPage2::MaySave() {
 
 void FrmPage2::SavePage() {
   Trap(row().errors.save, [this] {
-    survey().Execute(JoinPieces(kUpdate, gridGeneralInfo) +
-                     "',SurveyYear = " + NumberText(survey().SurveyYear) +
+    survey().Execute("UPDATE tbl_GeneralInformation set " +
+                     Assignments(kUpdate, kAnswers, gridGeneralInfo) +
+                     ",SurveyYear = " + NumberText(survey().SurveyYear) +
                      " where CollegeEmisNumber = " + NumberText(survey().CollegeEmisNumber) +
                      " and CampusEMISnumber = " + NumberText(survey().CampusEmisNumber));
   });

@@ -98,8 +98,7 @@ const CellTable& StaffCount() {
   static const CellTable table = {
       .select = "Select * from tbl_staffcount where collegeemisnumber = ",
       .remove = "Delete * from tbl_StaffCount where collegeemisnumber = ",
-      .insert = "Insert into tbl_StaffCount(CollegeEmisNumber,CampusEmisnumber,StaffcategoryCD,"
-                "GenderCD,RemunerationCD,DurationCD,AppointmentnatureCD,surveyyear,quantity)VALUES",
+      .insert = "Insert into tbl_StaffCount",
       .body = {4, 4, 11, 9},
       .walk = Walk::kRowByRow,
       .rows = {
@@ -117,8 +116,11 @@ const CellTable& StaffCount() {
               {8, {2, 1, 1}},   {9, {2, 1, 2}},   {10, {2, 2, 1}},  {11, {2, 2, 2}},
           },
       },
-      .values = {kCollege, kCampus, RowCode(0), RowCode(1), ColumnCode(0), ColumnCode(1),
-                 ColumnCode(2), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"StaffcategoryCD", RowCode(0)}, {"GenderCD", RowCode(1)},
+          {"RemunerationCD", ColumnCode(0)}, {"DurationCD", ColumnCode(1)},
+          {"AppointmentnatureCD", ColumnCode(2)}, {"surveyyear", kYear}, {"quantity", kQuantity}},
   };
   return table;
 }
@@ -127,8 +129,7 @@ const CellTable& LectureStaff() {
   static const CellTable table = {
       .select = "Select * from tbl_lecturestaff where collegeemisnumber = ",
       .remove = "Delete * from tbl_LectureStaff where collegeemisnumber = ",
-      .insert = "Insert into tbl_LectureStaff(CollegeEmisNumber,CampusEmisnumber,RemunerationCD,"
-                "GenderCD,DegreetypeCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_LectureStaff",
       .body = {3, 3, 6, 6},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"degreetypecd"}, .offset = 2},
@@ -136,7 +137,10 @@ const CellTable& LectureStaff() {
           .fields = {"remunerationCD", "genderCd"},
           .positions = {{3, {1, 1}}, {4, {1, 2}}, {5, {2, 1}}, {6, {2, 2}}},
       },
-      .values = {kCollege, kCampus, ColumnCode(0), ColumnCode(1), RowCode(), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"RemunerationCD", ColumnCode(0)}, {"GenderCD", ColumnCode(1)},
+          {"DegreetypeCD", RowCode()}, {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
   return table;
 }

@@ -9,7 +9,8 @@ namespace survey {
 namespace {
 
 constexpr auto kText = CellAs::kText;
-constexpr auto kRaw = CellAs::kRaw;
+constexpr auto kQuoted = CellAs::kQuoted;
+constexpr auto kBare = CellAs::kBare;
 constexpr auto kNumber = CellAs::kNumber;
 
 constexpr int kFirstCourse = 2;  // row
@@ -153,80 +154,41 @@ const GridDesign& TrainingDesign() {
   return design;
 }
 
-// The record's fields in the order of showing; the ID number comes between.
-const std::vector<FieldCell> kBeforeId = {
-    {"StaffCategoryCD", kStaffCategory},  {"sitetype", kSiteType},  {"Title", kTitle},
-    {"Initials", kInitials},              {"Surname", kSurname},    {"citizenstatusCD", kCitizen},
-    {"persalno", kPersalNumber},
+// In the order of the INSERT; the ID number comes behind the surname.
+const std::vector<Answer> kAnswers = {
+    {"Sitetype", kSiteType, kBare},
+    {"StaffCategoryCD", kStaffCategory, kNumber},
+    {"Title", kTitle, kText},
+    {"Initials", kInitials, kText},
+    {"Surname", kSurname, kText},
+    {"citizenstatusCD", kCitizen, kBare},
+    {"persalno", kPersalNumber, kText},
+    {"sacenumber", kSaceNumber, kText},
+    {"gendercd", kGender, kNumber},
+    {"dateofbirth", kDateOfBirth, CellAs::kDate},
+    {"populationgroupcd", kPopulationGroup, kNumber},
+    {"cellphone", kCellphone, kQuoted},
+    {"hometelephone", kHomeTelephone, kQuoted},
+    {"homelanguagecd", kHomeLanguage, kNumber},
+    {"disabilitycd", kDisability, kNumber},
+    {"disabilityother", kOtherDisability, kText},
+    {"personnelcategorycd", kPersonnelCategory, kNumber},
+    {"appointmentnaturecd", kAppointment, kNumber},
+    {"RemunerationCD", kRemuneration, kNumber},
+    {"durationcd", kContract, kNumber},
+    {"employeenumber", kEmployeeNumber, kText},
+    {"nationality", kSavedNationality, kText, kNationality},
 };
-const std::vector<FieldCell> kBehindId = {
-    {"sacenumber", kSaceNumber},
-    {"gendercd", kGender},
-    {"employeenumber", kEmployeeNumber},
-    {"citizenstatusCD", kCitizen},
-    {"nationality", kNationality},
-    {"DateOFBirth", kDateOfBirth},
-    {"populationgroupCD", kPopulationGroup},
-    {"Cellphone", kCellphone},
-    {"hometelephone", kHomeTelephone},
-    {"homelanguagecd", kHomeLanguage},
-    {"disabilitycd", kDisability},
-    {"disabilityother", kOtherDisability},
-    {"personnelcategorycd", kPersonnelCategory},
-    {"appointmentnaturecd", kAppointment},
-    {"durationcd", kContract},
-    {"remunerationcd", kRemuneration},
-};
+constexpr int kAnswersBeforeId = 5;
 
-const std::vector<StatementPiece> kInsertBeforeId = {
-    {",", kSiteType, kRaw},
-    {",", kStaffCategory, kNumber},
-    {",'", kTitle, kText},
-    {"','", kInitials, kText},
-    {"','", kSurname, kText},
-};
-const std::vector<StatementPiece> kInsertBehindId = {
-    {"',", kCitizen, kRaw},
-    {",'", kPersalNumber, kText},
-    {"','", kSaceNumber, kText},
-    {"',", kGender, kNumber},
-    {",#", kDateOfBirth, kRaw},
-    {"#,", kPopulationGroup, kNumber},
-    {",'", kCellphone, kRaw},
-    {"','", kHomeTelephone, kRaw},
-    {"',", kHomeLanguage, kNumber},
-    {",", kDisability, kNumber},
-    {",'", kOtherDisability, kText},
-    {"',", kPersonnelCategory, kNumber},
-    {",", kAppointment, kNumber},
-    {",", kRemuneration, kNumber},
-    {",", kContract, kNumber},
-    {",'", kEmployeeNumber, kText},
-    {"','", kSavedNationality, kText},
-};
 // Behind the ID number and the site's; the site type stays what it was.
-const std::vector<StatementPiece> kUpdate = {
-    {",surname = '", kSurname, kText},
-    {"', CitizenstatusCD = ", kCitizen, kRaw},
-    {",Title = '", kTitle, kText},
-    {"',Initials = '", kInitials, kText},
-    {"', PersalNo = '", kPersalNumber, kText},
-    {"',Sacenumber = '", kSaceNumber, kText},
-    {"', gendercd = ", kGender, kNumber},
-    {", dateofbirth = #", kDateOfBirth, kRaw},
-    {"#,populationgroupCD = ", kPopulationGroup, kNumber},
-    {",cellphone = '", kCellphone, kRaw},
-    {"',homeTelephone = '", kHomeTelephone, kRaw},
-    {"',HomelanguageCD = ", kHomeLanguage, kNumber},
-    {",disabilityCD = ", kDisability, kNumber},
-    {",disabilityother = '", kOtherDisability, kText},
-    {"', StaffCategoryCD=", kStaffCategory, kNumber},
-    {",personnelcategoryCD = ", kPersonnelCategory, kNumber},
-    {",AppointmentNatureCD= ", kAppointment, kNumber},
-    {",remunerationCD = ", kRemuneration, kNumber},
-    {",DurationCD = ", kContract, kNumber},
-    {", EmployeeNumber = '", kEmployeeNumber, kText},
-    {"', Nationality = '", kSavedNationality, kText},
+const std::vector<const char*> kUpdate = {
+    ",surname = ", ", CitizenstatusCD = ", ",Title = ", ",Initials = ", ", PersalNo = ",
+    ",Sacenumber = ", ", gendercd = ", ", dateofbirth = ", ",populationgroupCD = ",
+    ",cellphone = ", ",homeTelephone = ", ",HomelanguageCD = ", ",disabilityCD = ",
+    ",disabilityother = ", ", StaffCategoryCD=", ",personnelcategoryCD = ",
+    ",AppointmentNatureCD= ", ",remunerationCD = ", ",DurationCD = ", ", EmployeeNumber = ",
+    ", Nationality = ",
 };
 
 struct RequiredCell {
@@ -314,10 +276,9 @@ void FrmEducatorData::GetEducatorInformation(const std::string& id) {
     member.Open("Select * from tbl_StaffDetail WHERE IDNumber = '" + SqlEscape(id) + "'",
                 survey().DatabaseConnection.get());
     if (member.Eof()) return;
-    ShowFields(member, kBeforeId, gridgeneral);
+    ShowAnswers(member, kAnswers, gridgeneral);
     const bool citizen = member.Field("citizenstatusCD").Is(1);
     ShowFields(member, {{"IDnumber", citizen ? kIdNumber : kPassportNumber}}, gridgeneral);
-    ShowFields(member, kBehindId, gridgeneral);
   });
 }
 
@@ -381,22 +342,21 @@ bool FrmEducatorData::CheckHighlightedFields() {
 
 // The year is that of the instrument in both statements, whatever the survey year is.
 std::string FrmEducatorData::Insert(const std::string& id) const {
-  return "insert into tbl_staffdetail("
-         "CollegeEmisnumber,CampusEMISNumber,Sitetype,StaffCategoryCD,Title,Initials,Surname,"
-         "IDNumber,citizenstatusCD,persalno,sacenumber,gendercd,dateofbirth,populationgroupcd,"
-         "cellphone,hometelephone,homelanguagecd,disabilitycd,disabilityother,personnelcategorycd,"
-         "appointmentnaturecd,RemunerationCD,durationcd,employeenumber,nationality,surveyyear"
-         ") values (" +
+  const std::span answers(kAnswers);
+  const auto before_id = answers.first(kAnswersBeforeId);
+  const auto behind_id = answers.subspan(kAnswersBeforeId);
+  return "insert into tbl_staffdetail(CollegeEmisnumber,CampusEMISNumber," + ColumnsOf(before_id) +
+         ",IDNumber," + ColumnsOf(behind_id) + ",surveyyear) values (" +
          NumberText(survey().CollegeEmisNumber) + "," + NumberText(survey().CampusEmisNumber) +
-         JoinPieces(kInsertBeforeId, gridgeneral) + "','" + SqlEscape(id) +
-         JoinPieces(kInsertBehindId, gridgeneral) + "',2012)";
+         "," + ValuesOf(before_id, gridgeneral) + ",'" + SqlEscape(id) + "'," +
+         ValuesOf(behind_id, gridgeneral) + ",2012)";
 }
 
 std::string FrmEducatorData::Update(const std::string& id) const {
   return "Update tbl_staffDetail set IDnumber = '" + SqlEscape(id) +
          "',CollegeEMISNumber = " + NumberText(survey().CollegeEmisNumber) +
          ",campusemisnumber = " + NumberText(survey().CampusEmisNumber) +
-         JoinPieces(kUpdate, gridgeneral) + "', surveyyear = 2012 where IDNumber = '" +
+         Assignments(kUpdate, kAnswers, gridgeneral) + ", surveyyear = 2012 where IDNumber = '" +
          SqlEscape(EducatorId) + "'";
 }
 

@@ -146,13 +146,15 @@ const CellTable& Nsc() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentPopulationGroupNSC where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentPopulationGroupNSC where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentPopulationGroupNSC(CollegeEmisNumber,CampusEmisnumber,"
-                "Grade,PopulationGroupCD,GenderCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentPopulationGroupNSC",
       .body = {4, 4, 13, 6},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"Grade"}, .offset = kCodeOfRow},
       .columns = PopulationColumns(),
-      .values = {kCollege, kCampus, RowCode(), ColumnCode(0), ColumnCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus}, {"Grade", RowCode()},
+          {"PopulationGroupCD", ColumnCode(0)}, {"GenderCD", ColumnCode(1)},
+          {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
   return table;
 }
@@ -161,13 +163,15 @@ const CellTable& Aet() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentPopulationGroupAET where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentPopulationGroupAET where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentPopulationGroupAET(CollegeEmisNumber,CampusEmisnumber,"
-                "AETLevel,PopulationGroupCD,GenderCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentPopulationGroupAET",
       .body = {4, 4, 13, 7},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"AETLevel"}, .offset = kCodeOfRow},
       .columns = PopulationColumns(),
-      .values = {kCollege, kCampus, RowCode(), ColumnCode(0), ColumnCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"AETLevel", RowCode()}, {"PopulationGroupCD", ColumnCode(0)},
+          {"GenderCD", ColumnCode(1)}, {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
   return table;
 }

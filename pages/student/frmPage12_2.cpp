@@ -59,13 +59,15 @@ const CellTable& Occupational() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentPopulationGroupOcc where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentPopulationGroupOcc where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentPopulationGroupOcc(CollegeEmisNumber,CampusEmisnumber,"
-                "OrganisingFieldCD,PopulationGroupCD,GenderCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentPopulationGroupOcc",
       .body = {4, 4, 13, 15},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"OrganisingFieldCD"}, .offset = 3},
       .columns = PopulationColumns(),
-      .values = {kCollege, kCampus, RowCode(), ColumnCode(0), ColumnCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"OrganisingFieldCD", RowCode()}, {"PopulationGroupCD", ColumnCode(0)},
+          {"GenderCD", ColumnCode(1)}, {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
   return table;
 }

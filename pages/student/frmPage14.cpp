@@ -82,8 +82,7 @@ const CellTable& SpecialNeeds() {
   static const CellTable table = {
       .select = "Select * from tbl_SNEStudentEnrolment where collegeemisnumber = ",
       .remove = "Delete * from tbl_SNEStudentEnrolment where collegeemisnumber = ",
-      .insert = "Insert into tbl_SNEStudentEnrolment(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeTypeCD,DisabilityCD,GenderCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_SNEStudentEnrolment",
       .body = {2, 4, 11, 19},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"disabilityCD"}, .offset = 3},
@@ -97,7 +96,10 @@ const CellTable& SpecialNeeds() {
               {10, {5, 1}},  {11, {5, 2}},  // other
           },
       },
-      .values = {kCollege, kCampus, ColumnCode(0), RowCode(), ColumnCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeTypeCD", ColumnCode(0)}, {"DisabilityCD", RowCode()},
+          {"GenderCD", ColumnCode(1)}, {"SurveyYear", kYear}, {"Quantity", kQuantity}},
       .filled = Filled::kNotZero,
   };
   return table;

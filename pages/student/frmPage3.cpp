@@ -74,9 +74,7 @@ const CellTable& Registration() {
   static const CellTable table = {
       .select = "Select * from tbl_studentRegistration where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentRegistration where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentRegistration(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeRegistrationTypeCD,ProgrammeDurationTypeCD,GenderCD,SurveyYear,Quantity)"
-                "VALUES",
+      .insert = "Insert into tbl_StudentRegistration",
       .body = {4, 3, 10, 30},
       .walk = Walk::kRowByRow,
       .rows = {
@@ -92,7 +90,10 @@ const CellTable& Registration() {
           },
       },
       .columns = {.fields = {"programmedurationtypeCD"}, .offset = 3},
-      .values = {kCollege, kCampus, RowCode(0), ColumnCode(), RowCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeRegistrationTypeCD", RowCode(0)}, {"ProgrammeDurationTypeCD", ColumnCode()},
+          {"GenderCD", RowCode(1)}, {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
   return table;
 }

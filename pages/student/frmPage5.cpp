@@ -161,13 +161,15 @@ CellTable FteCells(CellRange body, Axis rows, Axis columns, InsertValue field) {
   return {
       .select = "Select * from tbl_studentFTE where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentFTE where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentFTE(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeRegistrationTypeCD,VocationalFieldFTECD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentFTE",
       .body = body,
       .walk = Walk::kColumnByColumn,
       .rows = std::move(rows),
       .columns = std::move(columns),
-      .values = {kCollege, kCampus, ColumnCode(), field, kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeRegistrationTypeCD", ColumnCode()}, {"VocationalFieldFTECD", field},
+          {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
 }
 
@@ -198,9 +200,7 @@ const CellTable& Report191() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentPopulationGroup191 where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentPopulationGroup191 where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentPopulationGroup191(CollegeEmisNumber,CampusEmisnumber,"
-                "programmeregistrationtypeCD,VocationalField191CD,PopulationGroupCD,GenderCD,"
-                "SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentPopulationGroup191",
       .body = {4, 4, 13, 6},
       .walk = Walk::kColumnByColumn,
       .rows = {
@@ -208,8 +208,11 @@ const CellTable& Report191() {
           .positions = {{4, {1}}, {5, {2}}, {6, {3}}},
       },
       .columns = PopulationColumns(),
-      .values = {kCollege, kCampus, RowCode(), RowCode(), ColumnCode(0), ColumnCode(1), kYear,
-                 kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"programmeregistrationtypeCD", RowCode()}, {"VocationalField191CD", RowCode()},
+          {"PopulationGroupCD", ColumnCode(0)}, {"GenderCD", ColumnCode(1)},
+          {"SurveyYear", kYear}, {"Quantity", kQuantity}},
       .select_tail = " and programmeregistrationtypeCD < 4 ",
       .remove_tail = " and programmeregistrationtypeCD < 4",
   };

@@ -71,15 +71,16 @@ const CellTable& Headcount() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentPopulationGroup191 where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentPopulationGroup191 where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentPopulationGroup191(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeRegistrationTypeCD,VocationalField191CD,PopulationGroupCD,GenderCD,"
-                "SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentPopulationGroup191",
       .body = {4, 4, 13, 9},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"VocationalField191CD"}, .offset = 3},
       .columns = PopulationColumns(),
-      .values = {kCollege, kCampus, kCode, RowCode(), ColumnCode(0), ColumnCode(1), kYear,
-                 kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeRegistrationTypeCD", kCode}, {"VocationalField191CD", RowCode()},
+          {"PopulationGroupCD", ColumnCode(0)}, {"GenderCD", ColumnCode(1)},
+          {"SurveyYear", kYear}, {"Quantity", kQuantity}},
       .select_tail = " and programmeregistrationtypeCD = ",
       .remove_tail = " and programmeregistrationtypeCd = ",
   };

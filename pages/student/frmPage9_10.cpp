@@ -82,13 +82,15 @@ const CellTable& AgeRecords() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentAgeLevel2 where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentAgeLevel2 where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentAgeLevel2(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeNCVCD,Age,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentAgeLevel2",
       .body = {2, 3, 20, 28},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"age"}, .offset = -12},
       .columns = {.fields = {"programmeNCVCD"}, .offset = 1},
-      .values = {kCollege, kCampus, ColumnCode(), RowCode(), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeNCVCD", ColumnCode()}, {"Age", RowCode()}, {"SurveyYear", kYear},
+          {"Quantity", kQuantity}},
   };
   return table;
 }

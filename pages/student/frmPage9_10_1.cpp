@@ -72,8 +72,7 @@ const CellTable& AgeRecords() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentAgeEnrolment where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentAgeEnrolment where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentAgeEnrolment(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeTypeCD,Age,GenderCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentAgeEnrolment",
       .body = {2, 4, 13, 29},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"age"}, .offset = -11},
@@ -88,7 +87,10 @@ const CellTable& AgeRecords() {
               {12, {5, 1}},  {13, {5, 2}},    // other
           },
       },
-      .values = {kCollege, kCampus, ColumnCode(0), RowCode(), ColumnCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeTypeCD", ColumnCode(0)}, {"Age", RowCode()}, {"GenderCD", ColumnCode(1)},
+          {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
   return table;
 }

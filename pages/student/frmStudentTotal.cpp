@@ -94,8 +94,7 @@ const CellTable& Enrolment() {
   static const CellTable table = {
       .select = "Select * from tbl_studentEnrolment where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentEnrolment where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentEnrolment(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeTypeCD,GenderCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentEnrolment",
       .body = {3, 4, 12, 4},
       .walk = Walk::kRowByRow,
       .rows = {.fields = {}, .offset = 4},
@@ -109,7 +108,10 @@ const CellTable& Enrolment() {
               {11, {5, 1}},  {12, {5, 2}},
           },
       },
-      .values = {kCollege, kCampus, ColumnCode(0), ColumnCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeTypeCD", ColumnCode(0)}, {"GenderCD", ColumnCode(1)}, {"SurveyYear", kYear},
+          {"Quantity", kQuantity}},
   };
   return table;
 }
@@ -118,8 +120,7 @@ const CellTable& Agreements() {
   static const CellTable table = {
       .select = "Select * from tbl_studentagreements where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentAgreements where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentAgreements(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeTypeCD,AgreementTypeCD,GenderCD,SurveyYear,Quantity)VALUES",
+      .insert = "Insert into tbl_StudentAgreements",
       .body = {3, 4, 10, 6},
       .walk = Walk::kRowByRow,
       .rows = {.fields = {"agreementtypecd"}, .offset = 3},
@@ -132,7 +133,10 @@ const CellTable& Agreements() {
               {9, {5, 1}},  {10, {5, 2}},
           },
       },
-      .values = {kCollege, kCampus, ColumnCode(0), RowCode(), ColumnCode(1), kYear, kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeTypeCD", ColumnCode(0)}, {"AgreementTypeCD", RowCode()},
+          {"GenderCD", ColumnCode(1)}, {"SurveyYear", kYear}, {"Quantity", kQuantity}},
   };
   return table;
 }

@@ -123,15 +123,16 @@ const CellTable& PopulationGroups() {
   static const CellTable table = {
       .select = "Select * from tbl_StudentPopulationGroupNCV where collegeemisnumber = ",
       .remove = "Delete * from tbl_StudentPopulationGroupNCV where collegeemisnumber = ",
-      .insert = "Insert into tbl_StudentPopulationGroupNCV(CollegeEmisNumber,CampusEmisnumber,"
-                "ProgrammeRegistrationTypeCD,programmeNCVCD,PopulationGroupCD,GenderCD,SurveyYear,"
-                "Quantity)VALUES",
+      .insert = "Insert into tbl_StudentPopulationGroupNCV",
       .body = {4, 4, 13, 22},
       .walk = Walk::kColumnByColumn,
       .rows = {.fields = {"programmeNCVCD"}, .offset = kRowOffset},
       .columns = PopulationColumns(),
-      .values = {kCollege, kCampus, kCode, RowCode(), ColumnCode(0), ColumnCode(1), kYear,
-                 kQuantity},
+      .values = {
+          {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
+          {"ProgrammeRegistrationTypeCD", kCode}, {"programmeNCVCD", RowCode()},
+          {"PopulationGroupCD", ColumnCode(0)}, {"GenderCD", ColumnCode(1)},
+          {"SurveyYear", kYear}, {"Quantity", kQuantity}},
       .select_tail = " and programmeregistrationtypeCD = ",
       .remove_tail = " and programmeregistrationtypeCd = ",
   };
