@@ -28,8 +28,9 @@ class Survey {
   double CampusEmisNumber = 0;                     // 0 until a site is chosen
   std::int16_t SurveyYear = 0;                     // 2012 once the main menu was loaded
 
-  // Replaces DatabaseConnection by a new one to DatabasePath. A failure is reported to the user
-  // and not to the caller, whose first query then fails: the connection is none after it.
+  // Replaces DatabaseConnection by a new one to DatabasePath. Throws when the old one's last
+  // commit fails. A failure to open goes to the error reporter, and to the caller only where that
+  // throws it; else the caller's first query fails, for the connection is none after it.
   void OpenDatabaseConnection();
 
   // Closes DatabaseConnection and sets it to none, without a word whatever happens.
@@ -48,6 +49,7 @@ class Survey {
   // Commits what the handler that ends here has written. Throws what the commit throws.
   void EndStatements();
 
+  // What a reporter throws leaves the call that failed.
   void set_error_reporter(ErrorReporter reporter) { report_error_ = std::move(reporter); }
   // Sees the statements of this and all later connections; for tests and measurements.
   void set_statement_observer(StatementObserver observer);

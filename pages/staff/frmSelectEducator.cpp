@@ -1,5 +1,8 @@
 #include "pages/staff/frmSelectEducator.h"
 
+#include <algorithm>
+#include <ranges>
+
 #include "base/text.h"
 #include "forms/survey_page.h"
 #include "store/dialect.h"
@@ -52,7 +55,6 @@ constexpr IdCorrection kIdCorrections[] = {
 
 // The button names and their captions do not always match.
 const std::vector<Link> kLinks = {
-    {"cmdPrevious", "frmPage13", Guard::kNone, Leaving::kShowThenUnload},
     {"cmdMenu", "frmMainMenu", Guard::kNone, Leaving::kShowThenUnload},
     {"cmdEdit", "frmEducatorData", Guard::kOwn, Leaving::kStays, {"EducatorId", "EmisNumber"}},
     {"cmdAddNew", "frmEducatorData", Guard::kOwn, Leaving::kStays, {"EducatorId", "EmisNumber"}},
@@ -61,6 +63,12 @@ const std::vector<Link> kLinks = {
     {"cmdStaffteaching", "frmEducatorTeaching1", Guard::kOwn, Leaving::kStays, {"EducatorId"}},
     {"cmdSpecialisation", "frmLecQualifications1", Guard::kOwn, Leaving::kStays, {"EducatorId"}},
 };
+
+std::string_view LastCampusPage(const std::vector<PageRow>& pages) {
+  const auto last =
+      std::ranges::find(pages | std::views::reverse, Section::kCampus, &PageRow::section);
+  return last->name;
+}
 
 }  // namespace
 
@@ -82,7 +90,11 @@ FrmSelectEducator::FrmSelectEducator(FormHost& host)
   }
   cmdPrint.on_click = [this] { Trap(kPrintListRoutine, [this] { PrintList(); }); };
   cmdPrintSurvey.on_click = [this] { Trap(kPrintPagesRoutine, [this] { PrintPages(); }); };
-  cmdPrevious.on_click = [this] { FollowLink(LinkOf(kLinks, "cmdPrevious")); };
+  cmdPrevious.on_click = [this] {
+    FollowLink({"cmdPrevious", LastCampusPage(this->host().pages()), Guard::kNone,
+                Leaving::kShowThenUnload});
+    ;
+  };
   cmdMenu.on_click = [this] {
     this->host().Get("frmMainMenu").Property("EditMode") = "Edit";
     FollowLink(LinkOf(kLinks, "cmdMenu"));
