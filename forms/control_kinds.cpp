@@ -248,6 +248,20 @@ void ComboBox::GotFocus() {
 
 // ---- GridControl ---------------------------------------------------------------------------
 
+const char* GridControl::EventOf(Action action) {
+  switch (action) {
+    case Action::kType:
+      return "Change";
+    case Action::kTick:
+      return "ButtonClicked";
+    case Action::kMove:
+      return "LeaveCell";
+    case Action::kClick:
+      break;
+  }
+  return "Click";
+}
+
 GridControl::GridControl(Form& form, std::string name, const GridDesign& design, int index)
     : Control(form, std::move(name), index), Grid(design) {
   AccessibleName = design.title;
@@ -255,27 +269,11 @@ GridControl::GridControl(Form& form, std::string name, const GridDesign& design,
 
 void GridControl::Reset() {
   Control::Reset();
-  Grid::Reset();
+  ReturnToDesign();
 }
 
-Entry GridControl::Type(int column, int row, std::string_view text) {
-  Entry entry{false, {}};
-  if (TakesInput()) Dispatch("Change", [&] { entry = Grid::Type(column, row, text); });
-  return entry;
-}
-
-Entry GridControl::Tick(int column, int row) {
-  Entry entry{false, {}};
-  if (TakesInput()) Dispatch("ButtonClicked", [&] { entry = Grid::Tick(column, row); });
-  return entry;
-}
-
-void GridControl::MoveTo(int column, int row) {
-  if (TakesInput()) Dispatch("LeaveCell", [&] { Grid::MoveTo(column, row); });
-}
-
-void GridControl::Click(int column, int row) {
-  if (TakesInput()) Dispatch("Click", [&] { Grid::Click(column, row); });
+void GridControl::RunAction(Action action, const std::function<void()>& run) {
+  if (TakesInput()) Dispatch(EventOf(action), run);
 }
 
 }  // namespace survey

@@ -99,11 +99,11 @@ class OptionButton : public Control {
 
 class TextBox : public Control {
  public:
-  // `label` is the text that stands before the box.
   TextBox(Form& form, std::string name, std::string accessible_name);
   void Reset() override;
 
   std::string Text;
+  // The design's, set where the form is made; a load leaves them as they are.
   bool Locked = false;  // shows, takes no typing
   bool Centered = false;
   // Whether a typed character is taken; all are where it is not set.
@@ -115,9 +115,6 @@ class TextBox : public Control {
   // box does not take are left out.
   void Enter(std::string_view text);
   void KeyDown();
-
- private:
-  bool design_locked_ = false;
 };
 
 struct ListItem {
@@ -179,7 +176,7 @@ class ComboBox : public Control {
   std::function<void(char32_t)> on_key_press;
   // Backspace, Delete, cut or paste in the line, which the control alone changes.
   std::function<void()> on_edit;
-  bool DroppedDown = false;  // wished by code, taken over by the view, which sets it back
+  bool DroppedDown = false;  // code asks to open the list; the view does, and sets it back
   std::uint64_t revision() const { return revision_; }
 
   // The user's side.
@@ -196,18 +193,19 @@ class ComboBox : public Control {
   std::uint64_t revision_ = 0;
 };
 
-// A survey table on a form. Code works on it as on any Grid; the methods below are the user's
-// side again, each one user action of the form.
+// A survey table on a form. What the user does to it is an action of the form, whoever passes it
+// on and through whatever reference.
 class GridControl : public Control, public Grid {
  public:
   // `design` must outlive the control.
   GridControl(Form& form, std::string name, const GridDesign& design, int index = kNoIndex);
   void Reset() override;
 
-  Entry Type(int column, int row, std::string_view text);
-  Entry Tick(int column, int row);
-  void MoveTo(int column, int row);
-  void Click(int column, int row);
+ protected:
+  void RunAction(Action action, const std::function<void()>& run) override;
+
+ private:
+  static const char* EventOf(Action action);  // as error reports name it
 };
 
 }  // namespace survey

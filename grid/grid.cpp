@@ -10,10 +10,10 @@ namespace survey {
 
 Grid::Grid(const GridDesign& design)
     : design_(&design), rows_(design.rows), index_(design, design.rows) {
-  Reset();
+  ReturnToDesign();
 }
 
-void Grid::Reset() {
+void Grid::ReturnToDesign() {
   if (rows_ != design_->rows) {
     rows_ = design_->rows;
     index_ = DesignIndex(*design_, rows_);
@@ -190,36 +190,34 @@ Entry Grid::MayBecome(int column, int row, std::string_view text) const {
   return {false, RequestOf(kind)};
 }
 
+void Grid::RunAction(Action, const std::function<void()>& run) { run(); }
+
+Entry Grid::EntryByUser(Action action, const std::function<Entry()>& enter) {
+  Entry entry{false, {}};
+  RunAction(action, [&] { entry = enter(); });
+  return entry;
+}
+
 Entry Grid::Type(int column, int row, std::string_view text) {
-  if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
-  // Going through a cell without touching it is no entry, even where code or an older file left
-  // something that the limits would not let in.
-  if (text == GetText(column, row)) return {};
-  const CellKind& kind = Kind(column, row);
-  auto held = CanonicalEntry(kind, text);
-  if (!held) return {false, RequestOf(kind)};
-  return Put(column, row, *std::move(held));
+  return EntryByUser(Action::kType, [&] { return TakeText(column, row, text); });
 }
 
 Entry Grid::Tick(int column, int row) {
-  if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
-  if (Kind(column, row).type != CellKind::Type::kCheckBox) {
-    return {false, "This cell is not a box to tick."};
-  }
-  return Put(column, row, GetText(column, row) == "1" ? "0" : "1");
+  return EntryByUser(Action::kTick, [&] { return TakeTick(column, row); });
 }
 
 void Grid::MoveTo(int column, int row) {
-  if (!Has(column, row) || active_ == Cell{column, row}) return;
-  SetActiveCell(column, row);
-  if (on_cell) on_cell(column, row);
+  RunAction(Action::kMove, [&] { MoveCursor(column, row); });
 }
 
 void Grid::Click(int column, int row) {
-  const bool on_head = row == 0 && !design_->heads.empty() && column >= 1 && column <= MaxColumns();
-  if (!on_head && !Has(column, row)) return;
-  MoveTo(column, row);  // nowhere from the head
-  if (on_click) on_click(column, row);
+  RunAction(Action::kClick, [&] {
+    const bool on_head =
+        row == 0 && !design_->heads.empty() && column >= 1 && column <= MaxColumns();
+    if (!on_head && !Has(column, row)) return;
+    MoveCursor(column, row);  // nowhere from the head
+    if (on_click) on_click(column, row);
+  });
 }
 
 // ---- Inside --------------------------------------------------------------------------------
@@ -282,6 +280,32 @@ std::string_view Grid::WhyClosed(int column, int row) const {
   return shown ? "" : "This cell is hidden.";
 }
 
+Entry Grid::TakeText(int column, int row, std::string_view text) {
+  if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
+  // Going through a cell without touching it is no entry, even where code or an older file left
+  // something that the limits would not let in.
+  if (text == GetText(column, row)) return {};
+  const CellKind& kind = Kind(column, row);
+  auto held = CanonicalEntry(kind, text);
+  if (!held) return {false, RequestOf(kind)};
+  return Put(column, row, *std::move(held));
+}
+
+Entry Grid::TakeTick(int column, int row) {
+  if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
+  if (Kind(column, row).type != CellKind::Type::kCheckBox) {
+    return {false, "This cell is not a box to tick."};
+  }
+  return Put(column, row, GetText(column, row) == "1" ? "0" : "1");
+}
+
+void Grid::MoveCursor(int column, int row) {
+  if (!Has(column, row) || active_ == Cell{column, row}) return;
+  SetActiveCell(column, row);
+  if (on_cell) on_cell(column, row);
+}
+
+// The one place where the user's side changes what a cell holds.
 Entry Grid::Put(int column, int row, std::string text) {
   if (text == GetText(column, row)) return {};
   Write(PositionOf(column, row), std::move(text));

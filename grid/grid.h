@@ -30,7 +30,8 @@ struct CellNote {
 //
 // Two ways in, kept apart. Code reads and writes cells without asking limits or locks, raises no
 // notification, and is silent outside the grid. The user's side obeys locks and limits, answers
-// whether the entry was taken, and notifies.
+// whether the entry was taken, and notifies; all of it goes through RunAction(), so that nobody
+// who has the grid in hand can pass by the form that it stands on.
 class Grid {
  public:
   using Notification = std::function<void(int column, int row)>;
@@ -38,10 +39,12 @@ class Grid {
   // `design` must outlive the grid.
   explicit Grid(const GridDesign& design);
   virtual ~Grid() = default;
+  Grid(const Grid&) = delete;
+  Grid& operator=(const Grid&) = delete;
 
   const GridDesign& design() const { return *design_; }
   // Back to what the design says: texts, locks, colours, row count, cursor.
-  void Reset();
+  void ReturnToDesign();
 
   // ---- Code's side -------------------------------------------------------------------------
   // "" for an untouched cell and outside the grid. A total gives the sum of the numbers that its
@@ -91,7 +94,7 @@ class Grid {
   // end. `from` itself does not count.
   std::optional<Cell> NextOpenCell(Cell from) const;
   std::optional<Cell> PreviousOpenCell(Cell from) const;
-  // Grows with every change of anything above; tells a view what it has to take over.
+  // Grows with every change of anything above, so that a view can see whether it is up to date.
   std::uint64_t revision() const { return revision_; }
 
   // ---- The user's side ---------------------------------------------------------------------
@@ -108,11 +111,17 @@ class Grid {
   // A click on a cell: moves the cursor there, then notifies on_click. Row 0 is the head.
   void Click(int column, int row);
 
-  // What a form hears of the user's side. The form sets them; they outlive Reset().
+  // What a form hears of the user's side. The form sets them; they outlive ReturnToDesign().
   Notification on_change;
   Notification on_check;
   Notification on_click;
   Notification on_cell;
+
+ protected:
+  enum class Action { kType, kTick, kMove, kClick };
+  // Runs each action of the user's, notifications included. A grid on a form makes it an action of
+  // the form, or leaves it out where the form takes none: an entry is then refused without a word.
+  virtual void RunAction(Action action, const std::function<void()>& run);
 
  private:
   struct CellState {
@@ -133,6 +142,10 @@ class Grid {
   void Compute(const DesignIndex::TotalCell& total) const;
   bool IsCovered(int column, int row) const;
   std::string_view WhyClosed(int column, int row) const;
+  Entry EntryByUser(Action action, const std::function<Entry()>& enter);
+  Entry TakeText(int column, int row, std::string_view text);
+  Entry TakeTick(int column, int row);
+  void MoveCursor(int column, int row);
   Entry Put(int column, int row, std::string text);
 
   const GridDesign* design_;

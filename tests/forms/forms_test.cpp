@@ -12,6 +12,9 @@ using ::testing::IsEmpty;
 
 std::vector<std::string> events;  // of all probes, in order
 
+const GridDesign kDesign = {
+    .columns = 1, .rows = 2, .column_widths = {900}, .rules = {{{1, 1, 1, 2}, Number(0, 99)}}};
+
 // A form that tells what happens to it, and does what a test wants.
 class Probe : public Form {
  public:
@@ -35,6 +38,7 @@ class Probe : public Form {
   OptionButton opt2{*this, "opt", "Two", "group", 2};
   TextBox txt{*this, "txt", "Text"};
   ComboBox cbo{*this, "cbo", "Combo"};
+  GridControl grid{*this, "grid", kDesign};
   std::function<void(Probe&)> act;
   using Form::Trap;
 
@@ -128,6 +132,19 @@ TEST_F(Host, HiddenAndDisabledControlsTakeNothingFromTheUser) {
   a.txt.takes_key = [](char32_t key) { return key >= '0' && key <= '9'; };
   a.txt.Enter("1é2 3");
   EXPECT_EQ(a.txt.Text, "123");
+}
+
+// Whoever has the grid alone in hand still works on the form.
+TEST_F(Host, TheUsersSideOfAGridIsAlwaysAnActionOfTheForm) {
+  Grid& grid = P("A").grid;
+  grid.on_change = [](int, int) { throw Overflow(); };
+  grid.Type(1, 1, "5");
+  EXPECT_EQ(LastBox(), "Run-time error '6':\n\nOverflow") << "told by the form, not thrown";
+  host.Start("A");
+  P("A").grid.Enabled = false;
+  EXPECT_FALSE(grid.Type(1, 1, "6").taken);
+  grid.Click(1, 2);
+  EXPECT_EQ(grid.GetText(1, 1) + std::to_string(grid.ActiveRow()), "1");
 }
 
 TEST_F(Host, AHandlersWritesAreOneCommitAndSurviveItsFailure) {

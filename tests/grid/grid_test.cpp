@@ -127,7 +127,7 @@ TEST(GridTest, ResetGoesBackToTheDesignAndKeepsWhoListens) {
   grid.SetLock(2, 2, true);
   grid.SetBackColor(2, 2, kRed);
   grid.SetMaxRows(9);
-  grid.Reset();
+  grid.ReturnToDesign();
   EXPECT_EQ(grid.GetText(1, 1) + grid.GetText(5, 4), "1.1");
   EXPECT_EQ(grid.BackColor(2, 2), kWhite);
   EXPECT_EQ(grid.MaxRows(), 4);
