@@ -13,6 +13,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "desktop/keys.h"
 #include "desktop/list_box_view.h"
 
 namespace survey {
@@ -21,12 +22,6 @@ namespace {
 constexpr int kVisibleEntries = 15;
 constexpr int kWidthInCharacters = 34;
 constexpr int kWidestList = 900;
-
-bool IsCharacter(const QKeyEvent& event) {
-  const bool command =
-      (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-  return !command && !event.text().isEmpty() && event.text().at(0).isPrint();
-}
 
 bool ChangesLine(const QKeyEvent& event) {
   return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||

@@ -10,9 +10,10 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
-#include "desktop/button_keys.h"
+#include "desktop/colors.h"
 #include "desktop/combo_box_view.h"
 #include "desktop/grid_view.h"
+#include "desktop/keys.h"
 #include "desktop/list_box_view.h"
 
 namespace survey {
@@ -28,10 +29,6 @@ constexpr int kLongLabelWidth = 260;
 // Shorter ones only where the room is too narrow, and the shortest never.
 constexpr int kShortLabel = 24;
 constexpr int kTextBoxCharacters = 6;  // that a box shows at least
-
-bool IsEnter(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 // ---- Label ---------------------------------------------------------------------------------
 
@@ -165,7 +162,8 @@ class ButtonView : public ControlView {
     const QString caption = QString::fromStdString(button_.Caption);
     if (widget_.text() != caption) {
       widget_.setText(caption);
-      if (const QKeySequence key = KeyOfButton(caption); !key.isEmpty()) widget_.setShortcut(key);
+      // Behind the caption, which may give the button a key of its own.
+      if (const QKeySequence key = KeyOf(button_.role()); !key.isEmpty()) widget_.setShortcut(key);
     }
     TellKey();
     ShowBackColor(widget_, button_.BackColor, kButtonFace);
@@ -363,8 +361,9 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext
 void ShowBackColor(QWidget& widget, Color color, Color standard) {
   QPalette palette;
   if (color != standard) {
-    const QColor shown(color & 0xFFU, (color >> 8U) & 0xFFU, (color >> 16U) & 0xFFU);
-    for (const auto role : {QPalette::Button, QPalette::Base}) palette.setColor(role, shown);
+    for (const auto role : {QPalette::Button, QPalette::Base}) {
+      palette.setColor(role, ToQColor(color));
+    }
     for (const auto role : {QPalette::ButtonText, QPalette::Text}) {
       palette.setColor(role, Qt::black);
     }

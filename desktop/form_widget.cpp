@@ -26,43 +26,9 @@ constexpr int kFieldWidth = 520;
 constexpr int kDialogWidth = 480;
 constexpr int kWholeTable = 340;  // height up to which a table does not scroll by itself
 
-template <typename Kind>
-bool Holds(const Layout& part) {
-  if (dynamic_cast<const Kind*>(part.control) != nullptr) return true;
-  return std::any_of(part.parts.begin(), part.parts.end(), Holds<Kind>);
-}
-
-bool IsButton(const Layout& part) { return dynamic_cast<const Button*>(part.control) != nullptr; }
-
-// Takes more room than it needs when there is some.
-bool Grows(const Layout& part) {
-  if (part.stretch > 0 || part.kind == Layout::Kind::kSpace) return true;
-  return part.kind == Layout::Kind::kFields || Holds<GridControl>(part) || Holds<ListBox>(part) ||
-         std::any_of(part.parts.begin(), part.parts.end(), Grows);
-}
-
-// Buttons below each other, perhaps with a text or a box to tick: they share one width.
-bool IsButtonColumn(const Layout& part) {
-  return std::all_of(part.parts.begin(), part.parts.end(), [](const Layout& child) {
-    return child.kind == Layout::Kind::kSpace || IsButton(child) || Holds<Label>(child) ||
-           Holds<CheckBox>(child);
-  });
-}
-
-// The buttons that work on the whole form, and the texts beside them.
-bool IsFoot(const Layout& part) {
-  if (part.control == nullptr || part.kind == Layout::Kind::kFrame) {
-    return std::all_of(part.parts.begin(), part.parts.end(), IsFoot);
-  }
-  return IsButton(part) || Holds<Label>(part);
-}
-
-// A table is never larger than its cells: the room that is left goes below the last one.
-void LeaveRoomBelowTables(const std::vector<Layout>& parts, QBoxLayout& column) {
-  const auto is_table = [](const Layout& part) {
-    return dynamic_cast<const GridControl*>(part.control) != nullptr;
-  };
-  if (std::any_of(parts.begin(), parts.end(), is_table)) column.addStretch(1);
+bool HasTable(const std::vector<Layout>& parts) {
+  return std::ranges::any_of(parts,
+                             [](const Layout& part) { return part.kind == Layout::Kind::kTable; });
 }
 
 // What scrolls as a whole only when its parts cannot be made any smaller. A scroll area asks for
@@ -116,19 +82,14 @@ FormWidget::FormWidget(Form& form, QWidget* parent)
 
   Layout arrangement = form.Arrange();
   if (arrangement.kind != Layout::Kind::kColumn) arrangement = ColumnOf({std::move(arrangement)});
-  const bool has_tables = Holds<GridControl>(arrangement);
   std::optional<Layout> foot;
-  if (has_tables && IsFoot(arrangement.parts.back())) {
-    foot = std::move(arrangement.parts.back());
+  if (arrangement.parts.back().kind == Layout::Kind::kFoot) {
+    foot = std::move(arrangement.parts.back().parts.front());
     arrangement.parts.pop_back();
   }
   auto* place = new Contents;
   QVBoxLayout* column = AddBlock(*place);
   AddParts(arrangement, *column, column->parentWidget());
-  if (!has_tables) {
-    column->insertStretch(0, 1);
-    column->addStretch(2);
-  }
   scroll_->setWidget(place);
   if (foot) {
     auto* below = new QWidget(this);
@@ -136,6 +97,9 @@ FormWidget::FormWidget(Form& form, QWidget* parent)
     Add(*foot, *foot_column, foot_column->parentWidget());
     below->layout()->setContentsMargins(kMargin, kSpacing, kMargin, kMargin);
     whole->addWidget(below);
+  } else {
+    column->insertStretch(0, 1);
+    column->addStretch(2);
   }
   FitWidth();
 }
@@ -238,7 +202,10 @@ void FormWidget::BeginEntry() {
 void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
   switch (part.kind) {
     case Layout::Kind::kControl:
-      AddControl(part, box, parent);
+      box.addWidget(MakeWidget(*part.control, parent), part.stretch);
+      break;
+    case Layout::Kind::kTable:
+      AddTable(*MakeWidget(*part.control, parent), box);
       break;
     case Layout::Kind::kRow:
     case Layout::Kind::kColumn: {
@@ -255,6 +222,9 @@ void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
     case Layout::Kind::kFrame:
       AddFrame(part, box, parent);
       break;
+    case Layout::Kind::kFoot:
+      AddParts(part, box, parent);  // somewhere within the form it is a part like any other
+      break;
     case Layout::Kind::kSpace:
       box.addStretch(std::max(1, part.stretch));
       break;
@@ -264,26 +234,7 @@ void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
 void FormWidget::AddParts(const Layout& part, QBoxLayout& box, QWidget* parent) {
   for (const Layout& child : part.parts) Add(child, box, parent);
   NameByLabel(part.parts);
-  const bool is_row = part.kind == Layout::Kind::kRow;
-  if (is_row && !std::any_of(part.parts.begin(), part.parts.end(), Grows)) box.addStretch(1);
-  if (!is_row) LeaveRoomBelowTables(part.parts, box);
-  if (is_row || IsButtonColumn(part)) return;
-  for (const Layout& child : part.parts) {
-    if (IsButton(child)) box.setAlignment(WidgetOf(*child.control), Qt::AlignLeft);
-  }
-}
-
-void FormWidget::AddControl(const Layout& part, QBoxLayout& box, QWidget* parent) {
-  QWidget* widget = MakeWidget(*part.control, parent);
-  if (Holds<GridControl>(part)) {
-    AddTable(*widget, box);
-    return;
-  }
-  box.addWidget(widget, part.stretch);
-  if (!IsButton(part)) return;
-  const bool stays_small = box.direction() == QBoxLayout::LeftToRight && part.stretch == 0;
-  widget->setSizePolicy(stays_small ? QSizePolicy::Fixed : QSizePolicy::Minimum,
-                        QSizePolicy::Fixed);
+  if (part.kind != Layout::Kind::kRow && HasTable(part.parts)) box.addStretch(1);
 }
 
 // Stands at the top left of its place. Small tables are shown whole; the room is given to all by
@@ -306,7 +257,6 @@ void FormWidget::AddTable(QWidget& table, QBoxLayout& box) {
   box.addLayout(down, kFirst);
 }
 
-// The label in the first column, all that follows it in the second.
 void FormWidget::AddFields(const Layout& part, QBoxLayout& box, QWidget* parent) {
   auto* fields = new QGridLayout;
   fields->setHorizontalSpacing(kSpacing);
@@ -314,26 +264,16 @@ void FormWidget::AddFields(const Layout& part, QBoxLayout& box, QWidget* parent)
   fields->setColumnStretch(1, 1);
   box.addLayout(fields, part.stretch);
   for (int row = 0; row < static_cast<int>(part.parts.size()); ++row) {
-    const Layout& line = part.parts[row];
+    const std::vector<Layout>& line = part.parts[row].parts;
+    fields->addWidget(MakeWidget(*line.front().control, parent), row, 0);
     auto* field = new QHBoxLayout;
     SetUp(*field);
-    const bool has_label = line.kind == Layout::Kind::kRow && line.parts.size() > 1;
-    if (has_label) {
-      Layout rest = line;
-      rest.parts.erase(rest.parts.begin());
-      fields->addWidget(MakeWidget(*line.parts.front().control, parent), row, 0);
-      AddParts(rest, *field, parent);
-      for (const Layout& child : rest.parts) {
-        if (child.stretch == 0 || child.control == nullptr) continue;
-        WidgetOf(*child.control)->setMaximumWidth(kFieldWidth);
-        field->setStretchFactor(WidgetOf(*child.control), kFirst);
-      }
-      field->addStretch(1);
-      NameByLabel(line.parts);
-    } else {
-      Add(line, *field, parent);
-    }
-    fields->addLayout(field, row, has_label ? 1 : 0, 1, has_label ? 1 : 2);
+    QWidget* widget = MakeWidget(*line.back().control, parent);
+    widget->setMaximumWidth(kFieldWidth);
+    field->addWidget(widget, kFirst);
+    field->addStretch(1);
+    fields->addLayout(field, row, 1);
+    NameByLabel(line);
   }
 }
 
@@ -344,8 +284,7 @@ void FormWidget::AddFrame(const Layout& part, QBoxLayout& box, QWidget* parent) 
   SetUp(*inner);
   const bool has_border = !static_cast<const Frame*>(part.control)->Caption.empty();
   if (has_border) inner->setContentsMargins(kFrameMargin, kSpacing, kFrameMargin, kFrameMargin);
-  for (const Layout& child : part.parts) Add(child, *inner, frame);
-  LeaveRoomBelowTables(part.parts, *inner);
+  AddParts(part, *inner, frame);
 }
 
 QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
@@ -365,7 +304,8 @@ QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
 void FormWidget::NameByLabel(const std::vector<Layout>& row) {
   for (std::size_t i = 1; i < row.size(); ++i) {
     const auto* label = dynamic_cast<const Label*>(row[i - 1].control);
-    if (label == nullptr || row[i].control == nullptr || IsButton(row[i])) continue;
+    const bool has_caption = dynamic_cast<const Button*>(row[i].control) != nullptr;
+    if (label == nullptr || row[i].control == nullptr || has_caption) continue;
     QWidget* widget = WidgetOf(*row[i].control);
     static_cast<QLabel*>(WidgetOf(*label))->setBuddy(widget);
     if (widget->accessibleName().isEmpty()) {

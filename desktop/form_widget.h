@@ -44,7 +44,6 @@ class FormWidget : public QWidget {
  private:
   QVBoxLayout* AddBlock(QWidget& place);
   void Add(const Layout& part, QBoxLayout& box, QWidget* parent);
-  void AddControl(const Layout& part, QBoxLayout& box, QWidget* parent);
   static void AddTable(QWidget& table, QBoxLayout& box);
   void AddFields(const Layout& part, QBoxLayout& box, QWidget* parent);
   void AddFrame(const Layout& part, QBoxLayout& box, QWidget* parent);

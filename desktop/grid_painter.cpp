@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 
+#include "desktop/colors.h"
 #include "desktop/grid_names.h"
 
 namespace survey {
@@ -31,11 +32,6 @@ constexpr int kDark = 100;              // grey, up to which black on it is hard
 // A printer without colours makes the red of a wrong total a dark grey.
 QColor InkOnPaper(const QColor& ground) {
   return qGray(ground.rgb()) < kDark ? kTextOnDark : kText;
-}
-
-QColor ToQColor(Color color) {
-  return QColor(static_cast<int>(color & 0xFFU), static_cast<int>((color >> 8U) & 0xFFU),
-                static_cast<int>((color >> 16U) & 0xFFU));
 }
 
 // Whether the design itself says where the text goes.

@@ -14,20 +14,12 @@
 #include "desktop/grid_painter.h"
 #include "desktop/grid_sheet.h"
 #include "desktop/grid_view.h"
+#include "desktop/keys.h"
 
 namespace survey {
 namespace {
 
 constexpr int kReachAroundBox = 3;  // pixels
-
-bool IsEnter(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-bool IsTyping(const QKeyEvent& event) {
-  const auto modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-  return !modifiers && !event.text().isEmpty() && event.text().at(0).isPrint();
-}
 
 // Keys that go on to another cell while a cell is being typed.
 bool MovesOn(const QKeyEvent& event, bool typing_over) {
@@ -188,7 +180,7 @@ bool GridView::GridKey(QKeyEvent& event) {
 
 // Says why a key that would begin an entry cannot, and swallows it.
 bool GridView::StartsRefused(const QKeyEvent& event) {
-  if (list_ || !IsTyping(event) || delegate_->editor() != nullptr) return false;
+  if (list_ || !IsCharacter(event) || delegate_->editor() != nullptr) return false;
   const Cell cell = Active();
   const std::string typed = event.text().toStdString();
   const Entry entry = IsBox(cell) ? grid_.Type(cell.column, cell.row, typed)

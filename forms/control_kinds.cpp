@@ -49,10 +49,11 @@ void Frame::Reset() {
 
 // ---- Button --------------------------------------------------------------------------------
 
-Button::Button(Form& form, std::string name, std::string caption, int index)
+Button::Button(Form& form, std::string name, std::string caption, ButtonRole role, int index)
     : Control(form, std::move(name), index),
       Caption(caption),
-      design_caption_(std::move(caption)) {}
+      design_caption_(std::move(caption)),
+      role_(role) {}
 
 void Button::Reset() {
   Control::Reset();

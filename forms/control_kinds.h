@@ -38,11 +38,16 @@ class Frame : public Control {
   std::string design_caption_;
 };
 
+// What a button is for, where forms have the like of it. No form has two of one role.
+enum class ButtonRole { kNone, kSave, kPrint, kNext, kPrevious, kMenu };
+
 class Button : public Control {
  public:
-  Button(Form& form, std::string name, std::string caption, int index = kNoIndex);
+  Button(Form& form, std::string name, std::string caption, ButtonRole role = ButtonRole::kNone,
+         int index = kNoIndex);
   void Reset() override;
 
+  ButtonRole role() const { return role_; }
   std::string Caption;  // an ampersand stands before the letter that works with Alt
   Color BackColor = kButtonFace;
   std::function<void()> on_click;
@@ -55,6 +60,7 @@ class Button : public Control {
 
  private:
   std::string design_caption_;
+  ButtonRole role_;
 };
 
 // A box to tick. Code that changes it raises the click as the user does.

@@ -2,15 +2,17 @@
 
 namespace survey {
 
-SurveyPage::SurveyPage(FormHost& host, const PageRow& row, const PageCaptions& captions)
+SurveyPage::SurveyPage(FormHost& host, const PageRow& row, const PageButtons& buttons)
     : Form(host, std::string(row.name), std::string(row.caption)),
-      cmdNext(*this, "cmdNext", captions.next),
+      cmdNext(*this, "cmdNext", buttons.next.caption, buttons.next.role),
       row_(row) {
-  if (captions.previous != nullptr) {
-    AddLink(cmdPrevious.emplace(*this, "cmdPrevious", captions.previous));
-  }
+  const auto add = [this](std::optional<Button>& link, const char* name, const PageButton& button) {
+    if (button.caption == nullptr) return;
+    AddLink(link.emplace(*this, name, button.caption, button.role));
+  };
+  add(cmdPrevious, "cmdPrevious", buttons.previous);
   AddLink(cmdNext);
-  if (captions.menu != nullptr) AddLink(cmdMenu.emplace(*this, "cmdMenu", captions.menu));
+  add(cmdMenu, "cmdMenu", buttons.menu);
   cmdSave.on_click = [this] { Save(); };
   cmdPrintPage.on_click = [this] {
     Trap(row_.errors.print, [this] {
@@ -46,9 +48,10 @@ Layout SurveyPage::Arrange() {
   std::vector<Layout> buttons;
   for (Button* link : links_) buttons.push_back(Place(*link));
   buttons.insert(buttons.end(), {Space(), Place(cmdPrintPage), Place(cmdSave)});
-  return ColumnOf({FrameOf(Frame1, Body(), 1),
-                   FrameOf(Frame2, ColumnOf({RowOf(std::move(buttons)),
-                                             RowOf({Place(lblEnter), Space(), Place(lblTab)})}))});
+  return ColumnOf(
+      {FrameOf(Frame1, Body(), 1),
+       FootOf(FrameOf(Frame2, ColumnOf({RowOf(std::move(buttons)),
+                                        RowOf({Place(lblEnter), Space(), Place(lblTab)})})))});
 }
 
 void SurveyPage::AddLink(Button& button) {

@@ -10,12 +10,21 @@
 
 namespace survey {
 
-// What the buttons of a page read, where it is not the usual.
-struct PageCaptions {
-  const char* next = "Next Page";
-  const char* previous = "Previous Page";  // null: the page has no such button
-  const char* menu = "Menu";               // null again
+// What a button of a page reads, and what it is for, which its name does not always tell.
+struct PageButton {
+  const char* caption;  // null: the page has no such button
+  ButtonRole role = ButtonRole::kNone;
 };
+
+// The buttons that lead from a page, where they are not the usual ones.
+struct PageButtons {
+  PageButton next = {"Next Page", ButtonRole::kNext};
+  PageButton previous = {"Previous Page", ButtonRole::kPrevious};
+  PageButton menu = {"Menu", ButtonRole::kMenu};
+};
+inline constexpr PageButton kNoButton = {nullptr};
+inline constexpr PageButton kToMainMenu = {"Main Menu", ButtonRole::kMenu};
+inline constexpr PageButton kToStaffList = {"Staff List", ButtonRole::kMenu};
 
 // What all pages of the survey share: the buttons, the unsaved mark (the yellow of Save, and
 // nothing besides), and the way a page opens, saves, prints and is left. What a page does
@@ -23,7 +32,7 @@ struct PageCaptions {
 class SurveyPage : public Form {
  public:
   // `row` must outlive the page.
-  SurveyPage(FormHost& host, const PageRow& row, const PageCaptions& captions = {});
+  SurveyPage(FormHost& host, const PageRow& row, const PageButtons& buttons = {});
 
   const PageRow& row() const { return row_; }
   // The first line on paper.
@@ -37,8 +46,8 @@ class SurveyPage : public Form {
 
   Layout Arrange() override;
 
-  Button cmdSave{*this, "cmdSave", "Save"};
-  Button cmdPrintPage{*this, "cmdPrintPage", "Print Page"};
+  Button cmdSave{*this, "cmdSave", "Save", ButtonRole::kSave};
+  Button cmdPrintPage{*this, "cmdPrintPage", "Print Page", ButtonRole::kPrint};
   Button cmdNext;
   std::optional<Button> cmdPrevious;
   std::optional<Button> cmdMenu;

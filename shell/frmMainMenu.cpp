@@ -42,11 +42,11 @@ FrmMainMenu::FrmMainMenu(FormHost& host) : Form(host, "frmMainMenu", "Main Menu"
 
 Layout FrmMainMenu::Arrange() {
   Layout site = ColumnOf({Place(lblSiteType), RowOf({Place(optHO), Place(optCampus), Space()}),
-                          FieldsOf({RowOf({Place(lblProvince), Place(cboProvince, 1)}),
-                                    RowOf({Place(lblCollege), Place(cboCollege, 1)}),
-                                    RowOf({Place(lblCampus), Place(cboCampus, 1)}),
-                                    RowOf({Place(lblColEmis), Place(txtColEmis, 1)}),
-                                    RowOf({Place(lblCamEmis), Place(txtCamEmis, 1)})}),
+                          FieldsOf({{lblProvince, cboProvince},
+                                    {lblCollege, cboCollege},
+                                    {lblCampus, cboCampus},
+                                    {lblColEmis, txtColEmis},
+                                    {lblCamEmis, txtCamEmis}}),
                           RowOf({Space(), Place(cmdContinue)})});
   std::vector<Layout> learner_rows;
   constexpr int kButtonsInRow = 3;
@@ -241,8 +241,8 @@ void FrmMainMenu::PlacePage(const PageRow& row) {
     if (place.index == kNoIndex) {
       Find<Button>(name).on_click = [this, page] { OpenForSite(page); };
     } else {
-      cmdLearner.push_back(
-          std::make_unique<Button>(*this, name, std::string(place.caption), place.index));
+      cmdLearner.push_back(std::make_unique<Button>(*this, name, std::string(place.caption),
+                                                    ButtonRole::kNone, place.index));
       cmdLearner.back()->on_click = [this, page] { Open(page); };
     }
   }

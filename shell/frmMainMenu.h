@@ -44,7 +44,7 @@ class FrmMainMenu : public Form {
   Button cmdHostel{*this, "cmdHostel", "Hostel Accommodation"};
   Button cmdStafffSummary{*this, "cmdStafffSummary", "Staff Summary Data"};
   Button cmdStaff{*this, "cmdStaff", "Individual Staff Data"};
-  Button cmdPrintSurvey{*this, "cmdPrintSurvey", "Print Campus Survey"};
+  Button cmdPrintSurvey{*this, "cmdPrintSurvey", "Print Campus Survey", ButtonRole::kPrint};
 
   Frame Frame3{*this, "Frame3", "Student Menu (Data to be completed by each campus)"};
   std::vector<std::unique_ptr<Button>> cmdLearner;  // in survey order; the index tells the page

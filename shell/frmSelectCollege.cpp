@@ -37,8 +37,8 @@ FrmSelectCollege::FrmSelectCollege(FormHost& host)
 }
 
 Layout FrmSelectCollege::Arrange() {
-  return ColumnOf({Place(lblSelect), Place(gridcollege, 1), Place(lblAdd),
-                   RowOf({Place(cmdAdd), Space(), Place(cmdExit), Place(cmdContinue)})});
+  return ColumnOf({Place(lblSelect), Place(gridcollege), Place(lblAdd),
+                   FootOf(RowOf({Place(cmdAdd), Space(), Place(cmdExit), Place(cmdContinue)}))});
 }
 
 void FrmSelectCollege::Form_Load() {

@@ -193,9 +193,9 @@ FrmHostels::FrmHostels(FormHost& host, const PageRow& page)
 }
 
 Layout FrmHostels::Body() {
-  return ColumnOf({Place(Label3), Place(Label1), Place(gridGeneralInfo, 5),
+  return ColumnOf({Place(Label3), Place(Label1), Place(gridGeneralInfo),
                    RowOf({Place(cmdAdd), Place(cmdSaveHostel), Place(cmdDelete), Space()}),
-                   Place(Label2), Place(gridhostels, 3), Place(gridSETA, 3)});
+                   Place(Label2), Place(gridhostels), Place(gridSETA)});
 }
 
 void FrmHostels::Form_Activate() {

@@ -222,7 +222,7 @@ const std::vector<const char*> kUpdate = {
 }  // namespace
 
 FrmPage2::FrmPage2(FormHost& host, const PageRow& page)
-    : SurveyPage(host, page, {.previous = "Main Menu", .menu = nullptr}),
+    : SurveyPage(host, page, {.previous = kToMainMenu, .menu = kNoButton}),
       gridPage2_1(*this, "gridPage2_1", IdentityDesign()),
       gridGeneralInfo(*this, "gridGeneralInfo", QuestionsDesign()) {
   MarkChangesOf(gridPage2_1);
@@ -230,7 +230,7 @@ FrmPage2::FrmPage2(FormHost& host, const PageRow& page)
   gridGeneralInfo.on_cell = [this](int, int row) { LockByMisAnswer(row); };
 }
 
-Layout FrmPage2::Body() { return ColumnOf({Place(gridPage2_1, 1), Place(gridGeneralInfo, 3)}); }
+Layout FrmPage2::Body() { return ColumnOf({Place(gridPage2_1), Place(gridGeneralInfo)}); }
 
 void FrmPage2::Form_Activate() {
   Trap(row().errors.activate, [this] { GetPage(); });

@@ -159,8 +159,8 @@ FrmPage4::FrmPage4(FormHost& host, const PageRow& page)
 }
 
 Layout FrmPage4::Body() {
-  return ColumnOf({Place(Label4), Place(Label1), Place(gridPage4_2, 4), Place(Label2),
-                   Place(gridLectureStaff, 3), RowOf({Place(Label3), Place(cmdStaff), Space()})});
+  return ColumnOf({Place(Label4), Place(Label1), Place(gridPage4_2), Place(Label2),
+                   Place(gridLectureStaff), RowOf({Place(Label3), Place(cmdStaff), Space()})});
 }
 
 void FrmPage4::PlaceCursor() { gridPage4_2.SetActiveCell(4, 4); }

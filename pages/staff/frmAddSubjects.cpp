@@ -80,15 +80,15 @@ Layout FrmAddSubjects::Arrange() {
   for (OptionButton& filter : optFilterSubjects) filters.push_back(Place(filter));
   filters.push_back(Space());
   return ColumnOf(
-      {FrameOf(Frame1, ColumnOf({FieldsOf({RowOf({Place(Label1), Place(txtSubjectName, 1)}),
-                                           RowOf({Place(Label2), Place(txtSubjectCode, 1)}),
-                                           RowOf({Place(Label3), Place(cboProgramme, 1)})}),
+      {FrameOf(Frame1, ColumnOf({FieldsOf({{Label1, txtSubjectName},
+                                           {Label2, txtSubjectCode},
+                                           {Label3, cboProgramme}}),
                                  RowOf({Space(), Place(cmdSaveSubject)})})),
        FrameOf(Frame2, ColumnOf({RowOf(std::move(filters)),
                                  RowOf({Place(Label4), Place(optSearch[0]), Place(optSearch[1]),
                                         Place(txtSearch, 1), Place(cmdSubjects)})})),
-       FrameOf(Frame3, ColumnOf({Place(gridSubjectList, 1), Place(Label5)}), 1),
-       RowOf({Space(), Place(cmdDone)})});
+       FrameOf(Frame3, ColumnOf({Place(gridSubjectList), Place(Label5)}), 1),
+       FootOf(RowOf({Space(), Place(cmdDone)}))});
 }
 
 void FrmAddSubjects::Form_Load() {

@@ -38,7 +38,7 @@ class FrmAddSubjects : public Form {
   TextBox txtSubjectCode{*this, "txtSubjectCode", "Subject Code"};
   Label Label3{*this, "Label3", "Programme"};
   ComboBox cboProgramme{*this, "cboProgramme", "Programme"};
-  Button cmdSaveSubject{*this, "cmdSaveSubject", "SAVE Subject"};
+  Button cmdSaveSubject{*this, "cmdSaveSubject", "SAVE Subject", ButtonRole::kSave};
 
   Frame Frame2{*this, "Frame2", "Filter Subjects"};
   std::array<OptionButton, 5> optFilterSubjects{{

@@ -214,7 +214,8 @@ bool IsMissing(const Grid& grid, const RequiredCell& required) {
 }  // namespace
 
 FrmEducatorData::FrmEducatorData(FormHost& host, const PageRow& page)
-    : StaffPage(host, page, {.next = "Next", .previous = "Staff List", .menu = nullptr}),
+    : StaffPage(host, page,
+                {.next = {"Next", ButtonRole::kNext}, .previous = kToStaffList, .menu = kNoButton}),
       gridgeneral(*this, "gridgeneral", GeneralDesign()),
       gridTraining(*this, "gridTraining", TrainingDesign()) {
   MarkChangesOf(gridgeneral);
@@ -235,7 +236,7 @@ FrmEducatorData::FrmEducatorData(FormHost& host, const PageRow& page)
 }
 
 Layout FrmEducatorData::Body() {
-  return ColumnOf({Place(gridgeneral, 2), Place(lblID), Place(gridTraining, 1)});
+  return ColumnOf({Place(gridgeneral), Place(lblID), Place(gridTraining)});
 }
 
 void FrmEducatorData::Form_Load() {

@@ -103,14 +103,17 @@ void ShowFigures(const Recordset& field, int row, Grid& grid) {
 }  // namespace
 
 FrmEducatorTeaching2::FrmEducatorTeaching2(FormHost& host, const PageRow& page)
-    : StaffPage(host, page, {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
+    : StaffPage(host, page,
+                {.next = {"Previous", ButtonRole::kPrevious},
+                 .previous = kToStaffList,
+                 .menu = kNoButton}),
       gridFields(*this, "gridFields", FieldsDesign()) {
   MarkChangesOf(gridFields);
 }
 
 void FrmEducatorTeaching2::Form_Load() { Caption = StaffCaption(); }
 
-Layout FrmEducatorTeaching2::Body() { return Place(gridFields, 1); }
+Layout FrmEducatorTeaching2::Body() { return Place(gridFields); }
 
 void FrmEducatorTeaching2::PlaceCursor() { gridFields.SetActiveCell(kMarkColumn, kFirstField); }
 

@@ -71,7 +71,9 @@ const QualificationList& FirstHalf() {
 }  // namespace
 
 FrmLecQualifications1::FrmLecQualifications1(FormHost& host, const PageRow& page)
-    : QualificationPage(host, page, {.next = "Next", .previous = nullptr, .menu = "Staff List"},
-                        FirstHalf()) {}
+    : QualificationPage(
+          host, page,
+          {.next = {"Next", ButtonRole::kNext}, .previous = kNoButton, .menu = kToStaffList},
+          FirstHalf()) {}
 
 }  // namespace survey

@@ -69,8 +69,10 @@ const QualificationList& SecondHalf() {
 }  // namespace
 
 FrmLecQualifications2::FrmLecQualifications2(FormHost& host, const PageRow& page)
-    : QualificationPage(host, page, {.next = "Previous", .previous = nullptr, .menu = nullptr},
-                        SecondHalf()) {
+    : QualificationPage(
+          host, page,
+          {.next = {"Previous", ButtonRole::kPrevious}, .previous = kNoButton, .menu = kNoButton},
+          SecondHalf()) {
   AddLink(cmdEducatorList);
 }
 

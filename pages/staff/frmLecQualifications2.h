@@ -12,7 +12,7 @@ class FrmLecQualifications2 : public QualificationPage {
  public:
   FrmLecQualifications2(FormHost& host, const PageRow& page);
 
-  Button cmdEducatorList{*this, "cmdEducatorList", "Staff List"};
+  Button cmdEducatorList{*this, "cmdEducatorList", "Staff List", ButtonRole::kMenu};
 
  protected:
   void ShowDetails(const Recordset& qualification) override;

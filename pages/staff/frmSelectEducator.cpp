@@ -104,13 +104,13 @@ FrmSelectEducator::FrmSelectEducator(FormHost& host)
 Layout FrmSelectEducator::Arrange() {
   return ColumnOf(
       {Place(lblAdvice), RowOf({Place(lblSelect), Space(), Place(lblNumber), Place(txtNumber)}),
-       RowOf({Place(gridEducator, 1),
+       RowOf({Place(gridEducator),
               ColumnOf({Place(cmdAddNew), Place(cmdEdit), Place(cmdDelete), Place(cmdUpdateID),
                         Place(cmdSpecialisation), Place(cmdStaffteaching), Place(cmdLoad),
                         Place(cmdLoad2), Space(), Place(cmdPrint), Place(chAll),
                         Place(cmdPrintSurvey)})},
              1),
-       RowOf({Place(cmdPrevious), Place(cmdMenu), Space()})});
+       FootOf(RowOf({Place(cmdPrevious), Place(cmdMenu), Space()}))});
 }
 
 void FrmSelectEducator::Form_Load() {

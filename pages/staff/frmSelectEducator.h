@@ -39,10 +39,10 @@ class FrmSelectEducator : public Form {
   Button cmdLoad{*this, "cmdLoad", "Lecturer Teaching Details 2012"};
   Button cmdLoad2{*this, "cmdLoad2", "Teaching Details 2012 cont."};
   CheckBox chAll{*this, "chAll", "Print for all staff"};
-  Button cmdPrint{*this, "cmdPrint", "Print Staff List"};
+  Button cmdPrint{*this, "cmdPrint", "Print Staff List", ButtonRole::kPrint};
   Button cmdPrintSurvey{*this, "cmdPrintSurvey", "Print Full Staff Survey"};
-  Button cmdPrevious{*this, "cmdPrevious", "Previous Section"};
-  Button cmdMenu{*this, "cmdMenu", "Main Menu"};
+  Button cmdPrevious{*this, "cmdPrevious", "Previous Section", ButtonRole::kPrevious};
+  Button cmdMenu{*this, "cmdMenu", "Main Menu", ButtonRole::kMenu};
 
  protected:
   void Form_Load() override;

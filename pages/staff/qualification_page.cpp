@@ -21,8 +21,8 @@ QualificationList WithRows(QualificationList list) {
 }
 
 QualificationPage::QualificationPage(FormHost& host, const PageRow& page,
-                                     const PageCaptions& captions, const QualificationList& list)
-    : StaffPage(host, page, captions), gridQual(*this, "gridQual", list.design), list_(list) {
+                                     const PageButtons& buttons, const QualificationList& list)
+    : StaffPage(host, page, buttons), gridQual(*this, "gridQual", list.design), list_(list) {
   gridQual.on_check = [this](int, int) { MarkUnsaved(); };
   cmdSave.on_click = [this] {
     try {
@@ -39,7 +39,7 @@ void QualificationPage::Form_Load() {
   Caption = "Lecturer Qualifications  ID Number:  " + EducatorId;
 }
 
-Layout QualificationPage::Body() { return Place(gridQual, 1); }
+Layout QualificationPage::Body() { return Place(gridQual); }
 
 void QualificationPage::GetPage() {
   TrapSilently([this] {

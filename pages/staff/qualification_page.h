@@ -44,7 +44,7 @@ class QualificationPage : public StaffPage {
 
  protected:
   // `list` is complete and outlives the page.
-  QualificationPage(FormHost& host, const PageRow& page, const PageCaptions& captions,
+  QualificationPage(FormHost& host, const PageRow& page, const PageButtons& buttons,
                     const QualificationList& list);
 
   void Form_Load() override;

@@ -39,7 +39,10 @@ SubjectList WithLines(SubjectList list) {
 }
 
 SubjectPage::SubjectPage(FormHost& host, const PageRow& page, const SubjectList& list)
-    : StaffPage(host, page, {.next = "Previous", .previous = "Staff List", .menu = nullptr}),
+    : StaffPage(host, page,
+                {.next = {"Previous", ButtonRole::kPrevious},
+                 .previous = kToStaffList,
+                 .menu = kNoButton}),
       gridSubjects(*this, "gridSubjects", list.design),
       Frame3(*this, "Frame3", list.title),
       cmdSubject(*this, list.add_button, "Add a subject"),
@@ -75,7 +78,7 @@ Layout SubjectPage::Body() {
       RowOf(std::move(types)), RowOf({Place(Label3), Place(cboSubject, 1), Place(cmdSubject)}),
       RowOf({Place(Label4), Place(txtRow), Place(cmdRemove), Space()})};
   for (Label& advice : lblAdvice) rows.push_back(Place(advice));
-  return ColumnOf({FrameOf(Frame3, ColumnOf(std::move(rows))), Place(gridSubjects, 1)}, 1);
+  return ColumnOf({FrameOf(Frame3, ColumnOf(std::move(rows))), Place(gridSubjects)}, 1);
 }
 
 // A search is one by name while neither option is chosen, and the page says so.

@@ -74,7 +74,7 @@ class SubjectPage : public StaffPage {
   TextBox txtRow{*this, "txtRow", "Line Number:"};
   Button cmdRemove{*this, "cmdRemove", "Remove data in line from grid"};
   std::deque<Label> lblAdvice;
-  Button cmdForward{*this, "cmdForward", "Next"};
+  Button cmdForward{*this, "cmdForward", "Next", ButtonRole::kNext};
 
  protected:
   // `list` is complete and outlives the page.

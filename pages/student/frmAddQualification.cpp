@@ -50,11 +50,9 @@ FrmAddQualification::FrmAddQualification(FormHost& host)
 }
 
 Layout FrmAddQualification::Arrange() {
-  return ColumnOf({FieldsOf({RowOf({Place(Label1), Place(cboField, 1)}),
-                             RowOf({Place(Label2), Place(txtNQFID, 1)}),
-                             RowOf({Place(Label3), Place(txtTitle, 1)}),
-                             RowOf({Place(Label4), Place(cboLevel, 1)})}),
-                   RowOf({Space(), Place(cmdSave), Place(cmdCancel)})});
+  return ColumnOf(
+      {FieldsOf({{Label1, cboField}, {Label2, txtNQFID}, {Label3, txtTitle}, {Label4, cboLevel}}),
+       RowOf({Space(), Place(cmdSave), Place(cmdCancel)})});
 }
 
 void FrmAddQualification::Form_Load() {

@@ -23,7 +23,7 @@ class FrmAddQualification : public Form {
   TextBox txtTitle{*this, "txtTitle", "Enter the title of the qualification:"};
   Label Label4{*this, "Label4", "Select the Level of the qualification:"};
   ComboBox cboLevel{*this, "cboLevel", "Select the Level of the qualification:"};
-  Button cmdSave{*this, "cmdSave", "Save Data"};
+  Button cmdSave{*this, "cmdSave", "Save Data", ButtonRole::kSave};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
  protected:

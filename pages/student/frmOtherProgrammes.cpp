@@ -180,7 +180,7 @@ const CellTable& Aet() {
 }  // namespace
 
 FrmOtherProgrammes::FrmOtherProgrammes(FormHost& host, const PageRow& page)
-    : SurveyPage(host, page, {.menu = "Main Menu"}),
+    : SurveyPage(host, page, {.menu = kToMainMenu}),
       gridlevel5(*this, "gridlevel5", Level5Design()),
       gridNSC(*this, "gridNSC", NscDesign()),
       gridAET(*this, "gridAET", AetDesign()) {
@@ -190,8 +190,7 @@ FrmOtherProgrammes::FrmOtherProgrammes(FormHost& host, const PageRow& page)
 }
 
 Layout FrmOtherProgrammes::Body() {
-  return ColumnOf(
-      {control_totals.Arrange(), Place(gridlevel5, 9), Place(gridNSC, 7), Place(gridAET, 8)});
+  return ColumnOf({control_totals.Arrange(), Place(gridlevel5), Place(gridNSC), Place(gridAET)});
 }
 
 void FrmOtherProgrammes::Form_Activate() {

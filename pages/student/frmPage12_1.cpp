@@ -125,7 +125,7 @@ std::string_view FirstCharacters(std::string_view text, int count) {
 }  // namespace
 
 FrmPage12_1::FrmPage12_1(FormHost& host, const PageRow& page)
-    : SurveyPage(host, page, {.menu = "Main Menu"}),
+    : SurveyPage(host, page, {.menu = kToMainMenu}),
       gridPage12_2(*this, "gridPage12_2", EnrolmentDesign()) {
   MarkChangesOf(gridPage12_2);
   cboSelect.on_click = [this] { cmdOK.BackColor = kYellow; };
@@ -142,7 +142,7 @@ FrmPage12_1::FrmPage12_1(FormHost& host, const PageRow& page)
 Layout FrmPage12_1::Body() {
   return ColumnOf(
       {RowOf({Place(Label1), Place(cboSelect, 1), Place(cmdOK), Place(cmdAdd)}),
-       Place(gridPage12_2, 1),
+       Place(gridPage12_2),
        FrameOf(Frame3, RowOf({Place(Label4), Place(txtRow), Place(cmdRemove), Space()}))});
 }
 

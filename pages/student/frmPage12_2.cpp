@@ -76,13 +76,13 @@ const CellTable& Occupational() {
 }  // namespace
 
 FrmPage12_2::FrmPage12_2(FormHost& host, const PageRow& page)
-    : SurveyPage(host, page, {.menu = "Main Menu"}),
+    : SurveyPage(host, page, {.menu = kToMainMenu}),
       gridPage12_1(*this, "gridPage12_1", OccupationalDesign(), 0) {
   MarkChangesOf(gridPage12_1);
   cmdSave.on_key_down = [this] { MarkUnsaved(); };
 }
 
-Layout FrmPage12_2::Body() { return ColumnOf({control_totals.Arrange(), Place(gridPage12_1, 1)}); }
+Layout FrmPage12_2::Body() { return ColumnOf({control_totals.Arrange(), Place(gridPage12_1)}); }
 
 void FrmPage12_2::Form_Load() { Caption = survey().SurveyCaption(row().caption); }
 

@@ -79,7 +79,7 @@ FrmPage13::FrmPage13(FormHost& host, const PageRow& page)
   MarkChangesOf(gridPage13_1);
 }
 
-Layout FrmPage13::Body() { return Place(gridPage13_1, 1); }
+Layout FrmPage13::Body() { return Place(gridPage13_1); }
 
 void FrmPage13::PlaceCursor() { gridPage13_1.SetActiveCell(kMale, kFirstProvince); }
 

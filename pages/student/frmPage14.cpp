@@ -115,7 +115,7 @@ FrmPage14::FrmPage14(FormHost& host, const PageRow& page)
 
 void FrmPage14::Form_Load() { Caption = survey().SurveyCaption(row().caption); }
 
-Layout FrmPage14::Body() { return Place(gridPage9_1, 1); }
+Layout FrmPage14::Body() { return Place(gridPage9_1); }
 
 void FrmPage14::PlaceCursor() { gridPage9_1.SetActiveCell(2, 4); }
 

@@ -106,7 +106,7 @@ FrmPage3::FrmPage3(FormHost& host, const PageRow& page)
   MarkChangesOf(gridEnrolment);
 }
 
-Layout FrmPage3::Body() { return Place(gridEnrolment, 1); }
+Layout FrmPage3::Body() { return Place(gridEnrolment); }
 
 void FrmPage3::PlaceCursor() { gridEnrolment.SetActiveCell(7, 3); }
 

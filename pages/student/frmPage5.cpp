@@ -248,9 +248,8 @@ FrmPage5::FrmPage5(FormHost& host, const PageRow& page)
 }
 
 Layout FrmPage5::Body() {
-  return ColumnOf({control_totals_.Arrange(), Place(Label1), Place(gridFTE[1], 1),
-                   Place(gridFTE[2], 1), Place(gridFTE[0], 1), Place(Label2),
-                   Place(gridReport191, 1)});
+  return ColumnOf({control_totals_.Arrange(), Place(Label1), Place(gridFTE[1]), Place(gridFTE[2]),
+                   Place(gridFTE[0]), Place(Label2), Place(gridReport191)});
 }
 
 void FrmPage5::PlaceCursor() { gridFTE[1].SetActiveCell(4, 3); }

@@ -100,8 +100,8 @@ FrmPage6_1::FrmPage6_1(FormHost& host, const PageRow& page)
 }
 
 Layout FrmPage6_1::Body() {
-  return ColumnOf({control_totals_.Arrange(), Place(gridPage6_2[1], 1), Place(gridPage6_2[0], 1),
-                   Place(grid191, 1)});
+  return ColumnOf(
+      {control_totals_.Arrange(), Place(gridPage6_2[1]), Place(gridPage6_2[0]), Place(grid191)});
 }
 
 void FrmPage6_1::PlaceCursor() { gridPage6_2[1].SetActiveCell(4, 4); }

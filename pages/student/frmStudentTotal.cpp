@@ -167,8 +167,8 @@ FrmStudentTotal::FrmStudentTotal(FormHost& host, const PageRow& page)
 void FrmStudentTotal::Form_Load() { Caption = survey().SurveyCaption(row().caption); }
 
 Layout FrmStudentTotal::Body() {
-  return ColumnOf({Place(Label4), Place(Label3), Place(Label2), Place(Label1),
-                   Place(gridEnrolment, 1), Place(gridAgreements, 1)});
+  return ColumnOf({Place(Label4), Place(Label3), Place(Label2), Place(Label1), Place(gridEnrolment),
+                   Place(gridAgreements)});
 }
 
 void FrmStudentTotal::PlaceCursor() { gridEnrolment.SetActiveCell(3, 4); }

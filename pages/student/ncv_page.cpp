@@ -157,7 +157,7 @@ NcvPage::NcvPage(FormHost& host, const PageRow& page)
   MarkChangesOf(grid_);
 }
 
-Layout NcvPage::Body() { return ColumnOf({control_totals_.Arrange(), Place(grid_, 1)}); }
+Layout NcvPage::Body() { return ColumnOf({control_totals_.Arrange(), Place(grid_)}); }
 
 void NcvPage::PlaceCursor() { grid_.SetActiveCell(4, 4); }
 

@@ -13,7 +13,7 @@ YearOfBirthPage::YearOfBirthPage(FormHost& host, const PageRow& page, const Year
   };
 }
 
-Layout YearOfBirthPage::Body() { return Place(gridPage9_1, 1); }
+Layout YearOfBirthPage::Body() { return Place(gridPage9_1); }
 
 void YearOfBirthPage::PlaceCursor() {
   gridPage9_1.SetActiveCell(table_.highlighted.column, table_.highlighted.row);

@@ -35,10 +35,9 @@ class SampleForm : public Form {
     lstNames.on_click = [this] { SetFocus(cmdCount); };
   }
   Layout Arrange() override {
-    return ColumnOf({FieldsOf({RowOf({Place(lblDigits), Place(txtDigits, 1)}),
-                               RowOf({Place(lblSearch), Place(cboSearch, 1)}),
-                               RowOf({Place(lblChoice), Place(cboChoice, 1)})}),
-                     RowOf({Place(optYes), Place(optNo)}), Place(lstNames), Place(cmdCount)});
+    return ColumnOf(
+        {FieldsOf({{lblDigits, txtDigits}, {lblSearch, cboSearch}, {lblChoice, cboChoice}}),
+         RowOf({Place(optYes), Place(optNo)}), Place(lstNames), Place(cmdCount)});
   }
 
   Label lblDigits{*this, "lblDigits", "Digits:"};

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "desktop/colors.h"
 #include "desktop_fixture.h"
 #include "filled_survey.h"
 #include "form_inspector.h"
@@ -79,8 +80,7 @@ TEST_F(EveryFormTest, NothingIsCutOffAndAllCanBeRead) {
   QApplication::setFont(usual);
   // The texts of a table are black under any theme.
   for (const Color color : {kWhite, kLockedGrey, kGreen, kRed, kYellow}) {
-    const QColor ground(color & 0xFFU, (color >> 8U) & 0xFFU, (color >> 16U) & 0xFFU);
-    EXPECT_GE(Contrast(Qt::black, ground), 4.5) << ground.name().toStdString();
+    EXPECT_GE(Contrast(Qt::black, ToQColor(color)), 4.5) << color;
   }
 }
 
