@@ -71,7 +71,7 @@ class ComboBoxWidget : public QComboBox {
   }
 
   // What the user has marked meanwhile stays marked unless the control changed something.
-  void TakeOverText() {
+  void RefreshText() {
     const Line line{QString::fromStdString(box_.Text()), box_.SelectionStart, box_.SelectionLength};
     if (line != shown_ || lineEdit()->text() != line.text) {
       shown_ = line;
@@ -192,12 +192,12 @@ ComboBoxView::ComboBoxView(ComboBox& box, QWidget* parent)
   widget_.setModel(&model_);
   QObject::connect(&widget_, &QComboBox::activated, &widget_, [this](int index) {
     box_.Choose(index);
-    TakeOver();
+    Refresh();
   });
 }
 
-void ComboBoxView::TakeOverState() {
-  TakeOverEntries();
+void ComboBoxView::RefreshState() {
+  RefreshEntries();
   ShowBackColor(widget_, box_.BackColor, kWhite);
   if (box_.DroppedDown) {
     box_.DroppedDown = false;
@@ -205,7 +205,7 @@ void ComboBoxView::TakeOverState() {
   }
 }
 
-void ComboBoxView::TakeOverEntries() {
+void ComboBoxView::RefreshEntries() {
   const QSignalBlocker blocker(widget_);
   if (revision_ != box_.revision()) {
     model_.setStringList(Texts(box_.items()));
@@ -213,7 +213,7 @@ void ComboBoxView::TakeOverEntries() {
   }
   if (widget_.currentIndex() != box_.ListIndex()) widget_.setCurrentIndex(box_.ListIndex());
   if (widget_.TakesCharacters()) {
-    widget_.TakeOverText();
+    widget_.RefreshText();
   } else {
     widget_.update();
   }

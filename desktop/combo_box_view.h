@@ -18,8 +18,8 @@ class ComboBoxView : public ControlView {
   ComboBoxView(ComboBox& box, QWidget* parent);
 
  private:
-  void TakeOverState() override;
-  void TakeOverEntries();
+  void RefreshState() override;
+  void RefreshEntries();
 
   ComboBox& box_;
   ComboBoxWidget& widget_;

@@ -64,7 +64,7 @@ class LabelView : public ControlView {
   }
 
  private:
-  void TakeOverState() override {
+  void RefreshState() override {
     const QString text = QString::fromStdString(label_.Caption);
     if (widget_.text() == text) return;
     widget_.setWordWrap(text.size() > kShortLabel);
@@ -101,7 +101,7 @@ class FrameView : public ControlView {
         widget_(static_cast<QGroupBox&>(*widget())) {}
 
  private:
-  void TakeOverState() override {
+  void RefreshState() override {
     // The name of a college may hold an ampersand, which stands for no key here.
     widget_.setTitle(QString::fromStdString(frame_.Caption).replace("&", "&&"));
   }
@@ -158,7 +158,7 @@ class ButtonView : public ControlView {
   }
 
  private:
-  void TakeOverState() override {
+  void RefreshState() override {
     const QString caption = QString::fromStdString(button_.Caption);
     if (widget_.text() != caption) {
       widget_.setText(caption);
@@ -193,12 +193,12 @@ class CheckBoxView : public ControlView {
     widget_.setText(QString::fromStdString(box.Caption));
     QObject::connect(&widget_, &QCheckBox::clicked, &widget_, [this] {
       box_.Click();
-      TakeOver();
+      Refresh();
     });
   }
 
  private:
-  void TakeOverState() override {
+  void RefreshState() override {
     const QSignalBlocker blocker(widget_);
     widget_.setChecked(box_.Value());
   }
@@ -218,12 +218,12 @@ class OptionButtonView : public ControlView {
     group_.addButton(&widget_);
     QObject::connect(&widget_, &QRadioButton::clicked, &widget_, [this] {
       option_.Click();
-      TakeOver();
+      Refresh();
     });
   }
 
  private:
-  void TakeOverState() override {
+  void RefreshState() override {
     if (widget_.isChecked() == option_.Value()) return;
     // An exclusive group could not take over that none is chosen.
     const QSignalBlocker blocker(widget_);
@@ -273,12 +273,12 @@ class TextBoxView : public ControlView {
     widget_.setAlignment(box.Centered ? Qt::AlignCenter : Qt::AlignLeft);
     QObject::connect(&widget_, &QLineEdit::textEdited, &widget_, [this](const QString& text) {
       box_.Enter(text.toStdString());
-      TakeOver();
+      Refresh();
     });
   }
 
  private:
-  void TakeOverState() override {
+  void RefreshState() override {
     if (widget_.isReadOnly() != box_.Locked) {
       widget_.setReadOnly(box_.Locked);
       ShowBackColor(widget_, box_.Locked ? kLockedGrey : kWhite, kWhite);
@@ -310,7 +310,7 @@ class GridControlView : public ControlView {
   }
 
  private:
-  void TakeOverState() override { widget_.TakeOver(); }
+  void RefreshState() override { widget_.Refresh(); }
 
   GridControl& grid_;
   GridView& widget_;
@@ -323,11 +323,11 @@ ControlView::ControlView(Control& control, QWidget* widget) : control_(control),
   widget_->setAccessibleName(QString::fromStdString(control.AccessibleName));
 }
 
-void ControlView::TakeOver() {
+void ControlView::Refresh() {
   widget_->setVisible(control_.Visible);
   widget_->setEnabled(control_.Enabled);
   widget_->setToolTip(QString::fromStdString(control_.ToolTip));
-  TakeOverState();
+  RefreshState();
 }
 
 std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext& context) {

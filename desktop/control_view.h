@@ -12,13 +12,14 @@ class QButtonGroup;
 namespace survey {
 
 // The widget of one control. It keeps nothing of the control's state: what the user does goes to
-// the control's user side, and TakeOver() shows what the control then holds.
+// the control's user side, and Refresh() shows what the control then holds.
 class ControlView {
  public:
   virtual ~ControlView() = default;
 
-  // Takes over the control's state, without raising its user side; cheap when nothing changed.
-  void TakeOver();
+  // Shows the control's state as it is now, without raising its user side; cheap when nothing
+  // changed.
+  void Refresh();
   // False when something typed here is refused and would be lost.
   virtual bool CommitEntry() { return true; }
   // Whether a form that comes up would let the user begin here.
@@ -30,7 +31,8 @@ class ControlView {
 
  protected:
   ControlView(Control& control, QWidget* widget);
-  virtual void TakeOverState() = 0;
+  // What Refresh() does for the kind of control, beyond what all have.
+  virtual void RefreshState() = 0;
 
  private:
   Control& control_;

@@ -47,13 +47,13 @@ class FormDialog : public QDialog {
 
   Form& form() const { return contents_->form(); }
 
-  void TakeOver() {
+  void Refresh() {
     if (!form().loaded()) {
       done(Accepted);
       return;
     }
     setWindowTitle(QString::fromStdString(form().Caption));
-    contents_->TakeOver();
+    contents_->Refresh();
   }
 
   // The close box, and Esc.
@@ -102,7 +102,7 @@ void DesktopView::Refresh() {
     const QScopedValueRollback refreshing(refreshing_, true);
     do {
       again_ = false;
-      TakeOver();
+      RefreshWindows();
     } while (again_);
   }
   Q_EMIT ActionEnded();
@@ -115,7 +115,7 @@ void DesktopView::Refresh() {
 void DesktopView::RunModal(Form& form) {
   FormDialog dialog(form, FrontWindow());
   dialogs_.push_back(&dialog);
-  dialog.TakeOver();
+  dialog.Refresh();
   dialog.resize(dialog.sizeHint());  // left alone it takes two thirds of the screen at most
   dialog.exec();
   // The whole desktop may be closing under an open dialog.
@@ -123,7 +123,7 @@ void DesktopView::RunModal(Form& form) {
   std::erase(dialogs_, &dialog);
 }
 
-void DesktopView::TakeOver() {
+void DesktopView::RefreshWindows() {
   DropUnloaded();
   Form* front = nullptr;
   for (Form* form : host_.shown()) {
@@ -134,7 +134,7 @@ void DesktopView::TakeOver() {
   } else {
     pages_->setCurrentWidget(no_page_);
   }
-  for (FormDialog* dialog : dialogs_) dialog->TakeOver();
+  for (FormDialog* dialog : dialogs_) dialog->Refresh();
 }
 
 void DesktopView::DropUnloaded() {
@@ -155,7 +155,7 @@ void DesktopView::ShowInMainWindow(Form& form) {
     pages_->addWidget(widget);
   }
   window_->setWindowTitle(QString::fromStdString(form.Caption));
-  widget->TakeOver();
+  widget->Refresh();
   pages_->setCurrentWidget(widget);
   window_->show();
 }

@@ -39,7 +39,7 @@ class DesktopView : public QObject, public FormsView {
   void Ended();
 
  private:
-  void TakeOver();
+  void RefreshWindows();
   void DropUnloaded();
   void ShowInMainWindow(Form& form);
   void CloseMainWindow();
@@ -51,7 +51,7 @@ class DesktopView : public QObject, public FormsView {
   std::map<Form*, FormWidget*> widgets_;
   std::vector<FormDialog*> dialogs_;  // the last one in front
   bool refreshing_ = false;
-  bool again_ = false;  // something changed while it was taken over
+  bool again_ = false;  // something changed during a refresh
 };
 
 }  // namespace survey

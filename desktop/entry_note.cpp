@@ -14,39 +14,47 @@ constexpr int kWidest = 520;  // of a note, in pixels
 
 }  // namespace
 
-EntryNote::EntryNote(QWidget& view) : view_(view) {
+EntryNote::EntryNote(QTableView& view) : view_(view) {
   timer_.setSingleShot(true);
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Hide(); });
 }
 
 EntryNote::~EntryNote() { delete label_; }
 
-void EntryNote::Show(const QString& text, const QWidget& on, const QRect& place) {
+void EntryNote::Show(Cell cell, const std::string& text) {
   Hide();
-  QWidget* window = view_.window();
-  label_ = new QLabel(text, window);
+  if (text.empty()) return;
+  const QString told = QString::fromStdString(text);
+  label_ = new QLabel(told, view_.window());
   label_->setObjectName(QStringLiteral("entryNote"));
   label_->setTextFormat(Qt::PlainText);
   label_->setStyleSheet(QStringLiteral(
       "QLabel { background: #fff3c4; color: black; border: 1px solid #806000; padding: 4px; }"));
-  const int widest = std::min(kWidest, window->width() - 8);
+  PlaceAt(view_.visualRect(view_.model()->index(cell.row - 1, cell.column - 1)));
+  label_->raise();
+  label_->show();
+  timer_.start(kShown + told.size() * kShownPerCharacter);
+  Describe(told);
+  QAccessibleEvent alert(label_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+// Below the cell where the window has room, else above it.
+void EntryNote::PlaceAt(const QRect& cell) {
+  const QWidget& window = *view_.window();
+  const int widest = std::min(kWidest, window.width() - 8);
   if (label_->sizeHint().width() > widest) {
     label_->setWordWrap(true);
     label_->setFixedWidth(widest);
   }
   label_->adjustSize();
-  const QPoint below = on.mapTo(window, place.bottomLeft()) + QPoint(0, 3);
-  const QPoint above = on.mapTo(window, place.topLeft()) - QPoint(0, label_->height() + 3);
-  const bool fits = below.y() + label_->height() <= window->height();
+  const QPoint below = view_.viewport()->mapTo(&window, cell.bottomLeft()) + QPoint(0, 3);
+  const QPoint above =
+      view_.viewport()->mapTo(&window, cell.topLeft()) - QPoint(0, label_->height() + 3);
+  const bool fits = below.y() + label_->height() <= window.height();
   const QPoint at = fits ? below : above;
-  label_->move(std::clamp(at.x(), 0, std::max(0, window->width() - label_->width())),
+  label_->move(std::clamp(at.x(), 0, std::max(0, window.width() - label_->width())),
                std::max(0, at.y()));
-  label_->raise();
-  label_->show();
-  timer_.start(kShown + text.size() * kShownPerCharacter);
-  Describe(text);
-  QAccessibleEvent alert(label_, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
 }
 
 // Of what the user is in: the line that is typed into, or the view itself.

@@ -3,7 +3,11 @@
 
 #include <QLabel>
 #include <QPointer>
+#include <QTableView>
 #include <QTimer>
+#include <string>
+
+#include "grid/cell.h"
 
 namespace survey {
 
@@ -11,18 +15,19 @@ namespace survey {
 // that caused it, until the user goes on. Screen readers say it.
 class EntryNote {
  public:
-  // `view` must outlive the note.
-  explicit EntryNote(QWidget& view);
+  // `view`, a table, must outlive the note.
+  explicit EntryNote(QTableView& view);
   ~EntryNote();
 
-  // Shows `text` below `place`, which is in coordinates of `on`.
-  void Show(const QString& text, const QWidget& on, const QRect& place);
+  // Shows the text at the cell; nothing for an empty one.
+  void Show(Cell cell, const std::string& text);
   void Hide();
 
  private:
+  void PlaceAt(const QRect& cell);
   void Describe(const QString& text);
 
-  QWidget& view_;
+  QTableView& view_;
   QPointer<QLabel> label_;  // a child of the view's window, which may end first
   QTimer timer_;
 };

@@ -138,9 +138,9 @@ bool FormWidget::focusNextPrevChild(bool next) {
   return moved;
 }
 
-void FormWidget::TakeOver() {
+void FormWidget::Refresh() {
   const QWidget* const before = focusWidget();
-  for (const auto& view : views_) view->TakeOver();
+  for (const auto& view : views_) view->Refresh();
   FitWidth();
   // Whoever has had a part of the form exchanged for another begins at the new part's start.
   if (before != nullptr && !before->isVisibleTo(this)) begun_ = false;
@@ -295,7 +295,7 @@ QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
   };
   views_.push_back(MakeControlView(control, context));
   // Texts decide how much room there must be, which layouts remember once they are asked.
-  views_.back()->TakeOver();
+  views_.back()->Refresh();
   return views_.back()->widget();
 }
 

@@ -27,8 +27,8 @@ class FormWidget : public QWidget {
   ~FormWidget() override;
 
   Form& form() const { return form_; }
-  // Takes over what has changed in the controls, and the focus where code has set it.
-  void TakeOver();
+  // Shows what has changed in the controls, and moves the focus where code has set it.
+  void Refresh();
   // Makes entries of all that is being typed; false when one is refused.
   bool CommitEntries();
 

@@ -11,7 +11,7 @@ QVariant Note(const Grid& grid, Cell cell) {
 }
 
 QVariant Tick(const Grid& grid, Cell cell) {
-  if (grid.Kind(cell.column, cell.row).type != CellKind::Type::kCheckBox) return {};
+  if (!grid.IsCheckBox(cell.column, cell.row)) return {};
   return ShownText(grid, cell) == QLatin1String("1") ? Qt::Checked : Qt::Unchecked;
 }
 
@@ -20,7 +20,7 @@ QVariant Tick(const Grid& grid, Cell cell) {
 GridModel::GridModel(const Grid& grid, QObject* parent)
     : QAbstractTableModel(parent), grid_(grid), rows_(grid.MaxRows()) {}
 
-void GridModel::TakeOver() {
+void GridModel::Refresh() {
   const int rows = grid_.MaxRows();
   if (rows > rows_) {
     beginInsertRows({}, rows_, rows - 1);
@@ -70,7 +70,7 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
   const Cell cell = CellAt(index);
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
   if (!grid_.IsOpen(cell.column, cell.row)) return flags;
-  const bool box = grid_.Kind(cell.column, cell.row).type == CellKind::Type::kCheckBox;
+  const bool box = grid_.IsCheckBox(cell.column, cell.row);
   return flags | (box ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
 }
 

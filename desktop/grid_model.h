@@ -16,7 +16,7 @@ class GridModel : public QAbstractTableModel {
   GridModel(const Grid& grid, QObject* parent);
 
   // Tells the view that the grid has changed.
-  void TakeOver();
+  void Refresh();
 
   static Cell CellAt(const QModelIndex& index) { return {index.column() + 1, index.row() + 1}; }
   QModelIndex IndexOf(Cell cell) const { return index(cell.row - 1, cell.column - 1); }

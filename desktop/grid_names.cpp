@@ -111,7 +111,7 @@ bool IsOnlyAnswerOfColumn(const Grid& grid, Cell cell) {
 
 QString ValueOf(const Grid& grid, Cell cell) {
   const QString text = ShownText(grid, cell).simplified();
-  if (grid.Kind(cell.column, cell.row).type == CellKind::Type::kCheckBox) {
+  if (grid.IsCheckBox(cell.column, cell.row)) {
     return text == QLatin1String("1") ? QStringLiteral("ticked") : QStringLiteral("not ticked");
   }
   return text.isEmpty() ? QStringLiteral("empty") : text;

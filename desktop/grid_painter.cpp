@@ -133,7 +133,7 @@ void GridPainter::PaintCell(QPainter& painter, Cell cell, const QRect& rect,
                             const CellLook& look) const {
   painter.fillRect(rect, ColorOf(cell));
   if (look.selected) painter.fillRect(rect, kSelection);
-  if (grid_.Kind(cell.column, cell.row).type == CellKind::Type::kCheckBox) {
+  if (grid_.IsCheckBox(cell.column, cell.row)) {
     PaintBox(painter, rect, grid_.GetText(cell.column, cell.row) == "1",
              grid_.IsOpen(cell.column, cell.row));
   } else if (IsUpright(grid_.design(), cell)) {

@@ -1,6 +1,7 @@
 #include "desktop/grid_view.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -11,11 +12,13 @@
 
 #include "desktop/entry_note.h"
 #include "desktop/grid_bands.h"
-#include "desktop/grid_delegate.h"
+#include "desktop/grid_clipboard.h"
+#include "desktop/grid_entry.h"
 #include "desktop/grid_model.h"
 #include "desktop/grid_names.h"
 #include "desktop/grid_painter.h"
 #include "desktop/grid_sheet.h"
+#include "desktop/keys.h"
 
 namespace survey {
 namespace {
@@ -25,6 +28,7 @@ constexpr double kTwipsPerInch = 1440;
 // A table has the size it has on paper, so that it fits a small screen, until the desktop's texts
 // are set larger than desktops usually set them.
 constexpr double kUsualDesktopPoints = 11;
+constexpr int kReachAroundBox = 3;  // pixels
 
 double UnitsPerTwip(const QWidget& view) {
   const double points = view.fontInfo().pointSizeF();
@@ -57,31 +61,22 @@ GridView::GridView(GridControl& grid, QWidget* parent)
       corner_(new GridCorner(ActionsOf(Pane::kCorner), this)),
       sheet_(std::make_unique<GridSheet>(grid, UnitsPerTwip(*this))),
       painter_(std::make_unique<GridPainter>(grid, *sheet_, font(), kPoints)),
-      note_(std::make_unique<EntryNote>(*this)) {
-  delegate_ = new GridDelegate(
-      grid, painter_->font(),
-      {.key = [this](QKeyEvent& event) { return EditorKey(event); },
-       .focus_lost = [this](Qt::FocusReason reason) { LeaveEditor(reason); },
-       .refuse = [this](const std::string& reason) { Tell(delegate_->cell(), reason); },
-       .commit =
-           [this] {
-             if (const Entry entry = Submit(); !entry.taken) Tell(delegate_->cell(), entry.reason);
-           }},
-      this);
+      note_(std::make_unique<EntryNote>(*this)),
+      entry_(new GridEntry(grid, painter_->font(), *note_, *this)),
+      clipboard_(std::make_unique<GridClipboard>(grid, *note_, *this)) {
   SetUp();
+  connect(entry_, &GridEntry::Ended, this, &GridView::GoOn);
+  connect(entry_, &GridEntry::closeEditor, this, &GridView::UpdatePanes);
   connect(this, &QAbstractItemView::clicked, this, &GridView::ClickCell);
   LayOut();
-  TakeOver();
+  Refresh();
 }
 
-// A line that is being typed into goes after this, and must not report its end to what is gone.
-GridView::~GridView() {
-  if (QLineEdit* editor = delegate_->editor()) editor->removeEventFilter(delegate_);
-}
+GridView::~GridView() { entry_->Abandon(); }
 
 void GridView::SetUp() {
   setModel(model_);
-  setItemDelegate(delegate_);
+  setItemDelegate(entry_);
   setHorizontalHeader(heads_);
   setVerticalHeader(labels_);
   setCornerButtonEnabled(false);
@@ -100,16 +95,13 @@ void GridView::SetUp() {
 
 // ---- Looks ---------------------------------------------------------------------------------
 
-void GridView::TakeOver() {
-  if (grid_.revision() == taken_over_) return;
-  taken_over_ = grid_.revision();
+void GridView::Refresh() {
+  if (grid_.revision() == shown_) return;
+  shown_ = grid_.revision();
   const QScopedValueRollback following(following_, true);
-  model_->TakeOver();
+  model_->Refresh();
   Measure();
-  if (delegate_->editor() != nullptr && !committing_ &&
-      !grid_.IsOpen(delegate_->cell().column, delegate_->cell().row)) {
-    CloseEditor();
-  }
+  entry_->Refresh();
   FollowActiveCell();
   UpdatePanes();
 }
@@ -237,7 +229,7 @@ QPoint GridView::Scroll() const { return {horizontalOffset(), verticalOffset()};
 void GridView::PaintPane(Pane pane, QPainter& painter, const QRect& exposed) const {
   const QPoint origin = OriginOf(pane);
   const CellRange active = grid_.SpanOf(grid_.ActiveColumn(), grid_.ActiveRow());
-  const bool focused = hasFocus() || delegate_->editor() != nullptr;
+  const bool focused = hasFocus() || entry_->IsOpen();
   const auto look_of = [&](Cell cell) {
     const bool cursor = cell == Cell{active.column, active.row};
     const bool selected = cell.row > 0 && selectionModel()->isSelected(model_->IndexOf(cell));
@@ -250,6 +242,131 @@ void GridView::PaintPane(Pane pane, QPainter& painter, const QRect& exposed) con
 void GridView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   PaintPane(Pane::kBody, painter, event->rect());
+}
+
+// ---- Keys ----------------------------------------------------------------------------------
+
+bool GridView::CommitEntry() { return entry_->Commit(); }
+
+bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+  const bool was_open = entry_->IsOpen();
+  const bool taken = QTableView::edit(index, trigger, event);
+  if (!was_open && entry_->IsOpen()) entry_->Begin(trigger == AnyKeyPressed);
+  return taken;
+}
+
+void GridView::hideEvent(QHideEvent* event) {
+  note_->Hide();
+  QTableView::hideEvent(event);
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  note_->Hide();
+  if (clipboard_->TakeKey(*event) || (list_ ? ListKey(*event) : TableKey(*event))) {
+    event->accept();
+  } else {
+    QTableView::keyPressEvent(event);
+  }
+}
+
+bool GridView::TableKey(const QKeyEvent& event) {
+  if (IsEnter(event)) {
+    Step(event.modifiers().testFlag(Qt::ShiftModifier));
+    return true;
+  }
+  const Cell cell = Active();
+  if (event.key() == Qt::Key_Space && grid_.IsCheckBox(cell.column, cell.row)) {
+    grid_.Tick(cell.column, cell.row);
+    return true;
+  }
+  return entry_->RefusesToBegin(event);
+}
+
+bool GridView::ListKey(const QKeyEvent& event) {
+  if (IsEnter(event) && event.modifiers().testFlag(Qt::ControlModifier)) {
+    grid_.Click(Active().column, 0);  // the head over the cursor, by which a list is sorted
+    return true;
+  }
+  // The cursor of a list chooses nothing by itself: the first Down chooses where it stands.
+  const bool enters = event.key() == Qt::Key_Down && !selectionModel()->hasSelection();
+  if (!enters && !IsEnter(event) && event.key() != Qt::Key_Space) return false;
+  Choose();
+  return true;
+}
+
+// A key that types nothing is no search, but in a list it is one.
+void GridView::keyboardSearch(const QString& search) {
+  if (list_) QTableView::keyboardSearch(search);
+}
+
+// What the key that ended an entry does besides.
+void GridView::GoOn(QKeyEvent* key) {
+  if (IsEnter(*key)) {
+    Step(key->modifiers().testFlag(Qt::ShiftModifier));
+  } else if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
+    focusNextPrevChild(key->key() == Qt::Key_Tab);
+  } else {
+    QTableView::keyPressEvent(key);
+  }
+}
+
+void GridView::Step(bool back) {
+  const auto to = back ? grid_.PreviousOpenCell(Active()) : grid_.NextOpenCell(Active());
+  if (to) setCurrentIndex(model_->IndexOf(*to));
+}
+
+// What a click does in a list, from the keyboard.
+void GridView::Choose() {
+  selectionModel()->select(currentIndex(),
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  grid_.Click(Active().column, Active().row);
+}
+
+// ---- Mouse and cursor ----------------------------------------------------------------------
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  if (following_ || !current.isValid()) return;
+  const Cell cell = GridModel::CellAt(current);
+  // Arrow keys choose in a list, as in any other list; a mouse press goes on to be a click.
+  if (list_ && !pressing_) {
+    grid_.Click(cell.column, cell.row);
+  } else {
+    grid_.MoveTo(cell.column, cell.row);
+  }
+  UpdatePanes();
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+  pressing_ = true;
+  QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+  released_at_ = event->pos();
+  QTableView::mouseReleaseEvent(event);
+  pressing_ = false;
+}
+
+void GridView::ClickCell(const QModelIndex& index) {
+  const Cell cell = GridModel::CellAt(index);
+  grid_.Click(cell.column, cell.row);
+  const QRect box =
+      painter_->BoxIn(visualRect(index))
+          .adjusted(-kReachAroundBox, -kReachAroundBox, kReachAroundBox, kReachAroundBox);
+  if (grid_.IsCheckBox(cell.column, cell.row) && box.contains(released_at_))
+    grid_.Tick(cell.column, cell.row);
+}
+
+// A click on what stays in view: the head of a list, or a label of a row.
+void GridView::ClickPane(Pane pane, QPoint place) {
+  if (!CommitEntry()) return;
+  setFocus(Qt::MouseFocusReason);
+  const Cell cell = sheet_->CellAt(place + OriginOf(pane), Scroll());
+  const bool head = cell.row == 0;
+  if (cell.column > 0 && (head || cell.row > sheet_->head_rows())) {
+    grid_.Click(cell.column, cell.row);
+  }
 }
 
 }  // namespace survey

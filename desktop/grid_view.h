@@ -10,15 +10,17 @@ namespace survey {
 
 class EntryNote;
 class GridBand;
+class GridClipboard;
 class GridCorner;
-class GridDelegate;
+class GridEntry;
 class GridModel;
 class GridPainter;
 class GridSheet;
 struct BandActions;
 
-// Shows one survey table and takes the user's typing. It holds nothing of the survey: every
-// entry goes to the grid, and TakeOver() paints what the grid then holds.
+// Shows one survey table, and takes the user's keys and clicks. It holds nothing of the survey: all
+// that the user does goes to the grid, and Refresh() shows what the grid then holds. What is typed
+// into a cell is the GridEntry's, what is done to a block of cells the GridClipboard's.
 //
 // An entry runs a user action of the form from inside the view's own event: whoever ends the view
 // in such an action must do it by deleteLater().
@@ -30,11 +32,11 @@ class GridView : public QTableView {
   explicit GridView(GridControl& grid, QWidget* parent = nullptr);
   ~GridView() override;
 
-  // Takes over what has changed in the grid since the last call; cheap when nothing has.
-  void TakeOver();
+  // Shows what has changed in the grid since the last call; cheap when nothing has.
+  void Refresh();
 
   // Makes an entry of what is being typed, so that Save, Print or a link do not lose it. False
-  // when the entry was refused: the typing then stays open and says why.
+  // when it is refused: the typing then stays open and says why.
   bool CommitEntry();
 
   QSize sizeHint() const override;
@@ -71,42 +73,30 @@ class GridView : public QTableView {
   void PaintPane(Pane pane, QPainter& painter, const QRect& exposed) const;
   void FollowActiveCell();
 
-  // ---- Typing
-  Entry Submit();
-  void CloseEditor();
-  void LeaveEditor(Qt::FocusReason reason);
-  bool EditorKey(QKeyEvent& event);
-  void Tell(Cell cell, const std::string& reason);
-
-  // ---- Keys and mouse outside the editor
-  bool GridKey(QKeyEvent& event);
-  bool ClipboardKey(QKeyEvent& event);
-  bool StartsRefused(const QKeyEvent& event);
+  // ---- Keys and mouse
+  bool TableKey(const QKeyEvent& event);
+  bool ListKey(const QKeyEvent& event);
+  void GoOn(QKeyEvent* key);
   void Step(bool back);
-  void Operate();
+  void Choose();
   void ClickPane(Pane pane, QPoint place);
   void ClickCell(const QModelIndex& index);
-  void Copy() const;
-  void Paste();
   Cell Active() const { return {grid_.ActiveColumn(), grid_.ActiveRow()}; }
-  CellRange SelectedCells() const;
-  bool IsBox(Cell cell) const;
 
   GridControl& grid_;
   const bool list_;  // chosen from by rows, not typed into
   GridModel* model_;
-  GridDelegate* delegate_;
   GridBand* heads_;
   GridBand* labels_;
   GridCorner* corner_;
   std::unique_ptr<GridSheet> sheet_;
   std::unique_ptr<GridPainter> painter_;
   std::unique_ptr<EntryNote> note_;
-  std::uint64_t taken_over_ = 0;  // revision of the grid
-  bool following_ = false;        // code moves the cursor, not the user
-  bool pressing_ = false;         // the mouse does
-  bool committing_ = false;
-  bool typing_over_ = false;  // the editor was opened by a key that replaces
+  GridEntry* entry_;
+  std::unique_ptr<GridClipboard> clipboard_;
+  std::uint64_t shown_ = 0;  // revision of the grid
+  bool following_ = false;   // code moves the cursor, not the user
+  bool pressing_ = false;    // the mouse does
   QPoint released_at_;
 };
 

@@ -66,7 +66,7 @@ ListBoxView::ListBoxView(ListBox& list, QWidget* parent)
   widget_.setModel(&model_);
 }
 
-void ListBoxView::TakeOverState() {
+void ListBoxView::RefreshState() {
   const QSignalBlocker blocker(widget_);
   if (revision_ != list_.revision()) {
     model_.setStringList(Texts(list_.items()));

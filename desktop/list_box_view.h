@@ -17,7 +17,7 @@ class ListBoxView : public ControlView {
   ListBoxView(ListBox& list, QWidget* parent);
 
  private:
-  void TakeOverState() override;
+  void RefreshState() override;
 
   ListBox& list_;
   QListView& widget_;

@@ -124,6 +124,10 @@ bool Grid::IsLocked(int column, int row) const {
 
 bool Grid::IsTotal(int column, int row) const { return DesignOf(column, row).total >= 0; }
 
+bool Grid::IsCheckBox(int column, int row) const {
+  return Kind(column, row).type == CellKind::Type::kCheckBox;
+}
+
 bool Grid::IsOpen(int column, int row) const { return WhyClosed(column, row).empty(); }
 
 bool Grid::IsRowHidden(int row) const { return row >= 1 && row <= rows_ && hidden_rows_[row - 1]; }
@@ -293,7 +297,7 @@ Entry Grid::TakeText(int column, int row, std::string_view text) {
 
 Entry Grid::TakeTick(int column, int row) {
   if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
-  if (Kind(column, row).type != CellKind::Type::kCheckBox) {
+  if (!IsCheckBox(column, row)) {
     return {false, "This cell is not a box to tick."};
   }
   return Put(column, row, GetText(column, row) == "1" ? "0" : "1");
@@ -309,8 +313,8 @@ void Grid::MoveCursor(int column, int row) {
 Entry Grid::Put(int column, int row, std::string text) {
   if (text == GetText(column, row)) return {};
   Write(PositionOf(column, row), std::move(text));
-  const bool box = Kind(column, row).type == CellKind::Type::kCheckBox;
-  if (const Notification& notify = box ? on_check : on_change) notify(column, row);
+  if (const Notification& notify = IsCheckBox(column, row) ? on_check : on_change)
+    notify(column, row);
   return {};
 }
 

@@ -79,6 +79,7 @@ class Grid {
   const CellKind& Kind(int column, int row) const;
   bool IsLocked(int column, int row) const;
   bool IsTotal(int column, int row) const;
+  bool IsCheckBox(int column, int row) const;
   // The cell takes typing or ticking: unlocked, of a kind that takes something, and shown, that is,
   // in a column with a width, in no hidden row and not drawn as part of another cell.
   bool IsOpen(int column, int row) const;

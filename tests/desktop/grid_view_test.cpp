@@ -101,8 +101,8 @@ class GridViewTest : public ::testing::Test, public FormsView {
 
   void Refresh() override {
     if (view_ == nullptr) return;
-    view_->TakeOver();
-    list_->TakeOver();
+    view_->Refresh();
+    list_->Refresh();
   }
   void RunModal(Form&) override {}
 
@@ -112,7 +112,7 @@ class GridViewTest : public ::testing::Test, public FormsView {
   // As code does it.
   void Go(int column, int row) {
     table().SetActiveCell(column, row);
-    view_->TakeOver();
+    view_->Refresh();
   }
   // Each key goes to whatever has the focus by then.
   void Keys(const char* text) {
@@ -349,7 +349,7 @@ TEST_F(GridViewTest, FollowsTheGrid) {
   EXPECT_TRUE(view_->isRowHidden(4));
   EXPECT_EQ(view_->model()->rowCount(), 25);
   table().SetMaxRows(10);
-  view_->TakeOver();
+  view_->Refresh();
   EXPECT_EQ(view_->model()->rowCount(), 10);
   EXPECT_EQ(Current(), (Cell{3, 10}));
   EXPECT_THAT(form().heard, IsEmpty());
@@ -370,7 +370,7 @@ TEST_F(GridViewTest, ListChoosesRows) {
   EXPECT_THAT(form().heard, ElementsAre("click 1,1", "click 1,2", "click 2,4", "click 2,0",
                                         "click 1,4", "click 1,0"));
   form().list.SetActiveCell(1, 9);
-  list_->TakeOver();
+  list_->Refresh();
   EXPECT_FALSE(list_->selectionModel()->hasSelection()) << "code chose no row";
 }
 

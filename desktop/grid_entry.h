@@ -1,0 +1,78 @@
+#ifndef DESKTOP_GRID_ENTRY_H_
+#define DESKTOP_GRID_ENTRY_H_
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <optional>
+
+#include "desktop/entry_note.h"
+#include "forms/control_kinds.h"
+
+namespace survey {
+
+// What the user types into one cell of a table. As the table's delegate it makes the line that is
+// typed into; each key is put to the grid first, and one that cannot lead to an entry changes
+// nothing. The grid gets the text when the user leaves the cell.
+class GridEntry : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  // All must outlive the entry; `view` owns it.
+  GridEntry(GridControl& grid, QFont font, EntryNote& note, QTableView& view);
+
+  // Something is being typed.
+  bool IsOpen() const { return line_ != nullptr; }
+  // To be called when the view has opened the line. `over`: by a character that takes the place of
+  // what the cell held, so that the arrow keys leave the cell.
+  void Begin(bool over);
+  // Whether `key` was to begin an entry that the cell does not take; then says why.
+  bool RefusesToBegin(const QKeyEvent& key);
+  // Makes an entry of what is being typed. False when it is refused: the line then stays open with
+  // all of it selected, and the note says why.
+  bool Commit();
+  // Gives the typing up.
+  void Close();
+  // Gives it up where the cell has been closed under it.
+  void Refresh();
+  // Lets go of the line: its end is not to be noticed any more, since the view is ending.
+  void Abandon();
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const override;
+  void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+  void setModelData(QWidget* editor, QAbstractItemModel* model,
+                    const QModelIndex& index) const override;
+  void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const override;
+  void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
+
+ Q_SIGNALS:
+  // The entry was taken; `key` ended it, and goes on from its cell.
+  void Ended(QKeyEvent* key);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+ private:
+  bool TakeKey(QKeyEvent& event);
+  void Leave(Qt::FocusReason reason);
+  Entry Submit() const;
+
+  GridControl& grid_;
+  QFont font_;
+  EntryNote& note_;
+  bool over_ = false;
+  // Qt makes the line, and has it submitted, in const functions.
+  mutable bool submitting_ = false;
+  mutable QPointer<QLineEdit> line_;       // null while nothing is typed; the view owns it
+  mutable Cell cell_;                      // that it types into
+  mutable std::optional<QString> before_;  // what it held when typing began
+};
+
+}  // namespace survey
+
+#endif  // DESKTOP_GRID_ENTRY_H_
