@@ -1,6 +1,7 @@
 #include "base/text.h"
 
 #include <unicode/locid.h>
+#include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
 #include <algorithm>
@@ -70,6 +71,31 @@ std::int32_t ToWholeNumber(double number) { return RoundTo<std::int32_t>(number)
 std::int16_t ToSmallWholeNumber(double number) { return RoundTo<std::int16_t>(number); }
 
 int CharacterCount(std::string_view text) { return FromUtf8(text).countChar32(); }
+
+std::string FirstCharacters(std::string_view text, int count) {
+  const icu::UnicodeString all = FromUtf8(text);
+  std::string first;
+  return all.tempSubString(0, all.moveIndex32(0, count)).toUTF8String(first);
+}
+
+std::string KeepCharacters(std::string_view text, const std::function<bool(char32_t)>& keep) {
+  const icu::UnicodeString all = FromUtf8(text);
+  icu::UnicodeString kept;
+  for (int at = 0; at < all.length(); at = all.moveIndex32(at, 1)) {
+    if (keep(static_cast<char32_t>(all.char32At(at)))) kept.append(all.char32At(at));
+  }
+  std::string result;
+  return kept.toUTF8String(result);
+}
+
+bool IsOneLine(std::string_view text) {
+  constexpr std::uint32_t kBreaks = U_GC_CC_MASK | U_GC_ZL_MASK | U_GC_ZP_MASK;
+  const icu::UnicodeString all = FromUtf8(text);
+  for (int at = 0; at < all.length(); at = all.moveIndex32(at, 1)) {
+    if ((U_GET_GC_MASK(all.char32At(at)) & kBreaks) != 0) return false;
+  }
+  return true;
+}
 
 std::string UpperCase(std::string_view text) {
   std::string capitals;

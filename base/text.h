@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,15 @@ std::int16_t ToSmallWholeNumber(double number);
 
 // Number of characters (Unicode code points) of a UTF-8 text; lengths of cells are told in them.
 int CharacterCount(std::string_view text);
+
+// The first `count` characters of a UTF-8 text; all of it where it has fewer.
+std::string FirstCharacters(std::string_view text, int count);
+
+// The characters of a UTF-8 text for which `keep` holds.
+std::string KeepCharacters(std::string_view text, const std::function<bool(char32_t)>& keep);
+
+// No control character is in the text, and no line or paragraph separator.
+bool IsOneLine(std::string_view text);
 
 // `text` in capitals, accented letters included.
 std::string UpperCase(std::string_view text);

@@ -1,9 +1,8 @@
 #include "forms/control_kinds.h"
 
-#include <unicode/unistr.h>
-
 #include <algorithm>
 
+#include "base/text.h"
 #include "forms/form.h"
 
 namespace survey {
@@ -11,16 +10,6 @@ namespace {
 
 void Call(const std::function<void()>& notification) {
   if (notification) notification();
-}
-
-std::string KeepCharacters(std::string_view text, const std::function<bool(char32_t)>& takes) {
-  const auto all = icu::UnicodeString::fromUTF8(std::string(text));
-  icu::UnicodeString kept;
-  for (int i = 0; i < all.length(); i = all.moveIndex32(i, 1)) {
-    if (takes(static_cast<char32_t>(all.char32At(i)))) kept.append(all.char32At(i));
-  }
-  std::string result;
-  return kept.toUTF8String(result);
 }
 
 }  // namespace

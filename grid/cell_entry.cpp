@@ -134,19 +134,8 @@ std::optional<std::string> CanonicalDate(std::string_view text) {
 
 // ---- Texts ---------------------------------------------------------------------------------
 
-// A cell is one line: no control character and none of the line ends that Unicode adds.
-bool IsOneLine(std::string_view text) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : '\0');
-    if (byte < 0x20 || byte == 0x7F) return false;
-    if (byte == 0xC2 && next < 0xA0) return false;
-  }
-  return text.find("\u2028") == text.npos && text.find("\u2029") == text.npos;
-}
-
 std::optional<std::string> CanonicalText(const CellKind& kind, std::string_view text) {
-  if (!IsOneLine(text)) return std::nullopt;
+  if (!IsOneLine(text)) return std::nullopt;  // as a cell is
   std::string held = kind.upper_case ? UpperCase(text) : std::string(text);
   // Counted last: a capital may take more characters than the letter did.
   if (CharacterCount(held) > kind.length) return std::nullopt;

@@ -111,17 +111,6 @@ constexpr OldLevel kOldLevels[] = {
 };
 // clang-format on
 
-// The first `count` characters of a UTF-8 text.
-std::string_view FirstCharacters(std::string_view text, int count) {
-  std::size_t end = 0;
-  for (; count > 0 && end < text.size(); --count) {
-    do {
-      ++end;
-    } while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U);
-  }
-  return text.substr(0, end);
-}
-
 }  // namespace
 
 FrmPage12_1::FrmPage12_1(FormHost& host, const PageRow& page)
@@ -258,9 +247,8 @@ void FrmPage12_1::TypeAhead(char32_t character) {
     return;
   }
   const std::string& line = cboSelect.Text();
-  std::string search(cboSelect.SelectionLength == 0
-                         ? std::string_view(line)
-                         : FirstCharacters(line, cboSelect.SelectionStart));
+  std::string search =
+      cboSelect.SelectionLength == 0 ? line : FirstCharacters(line, cboSelect.SelectionStart);
   search += static_cast<char>(character);
   cboSelect.DroppedDown = true;
   const auto& items = cboSelect.items();
