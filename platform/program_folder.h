@@ -5,6 +5,9 @@
 
 namespace survey {
 
+// The file that each new database is a copy of, beside the executable.
+inline constexpr char kTemplateFile[] = "CorvaleAnnualOstrel2012.mdb";
+
 // What the program knows of the machine it runs on.
 class ProgramFolder {
  public:

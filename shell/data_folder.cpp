@@ -10,7 +10,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr char kDataFolder[] = "Data2012";
-constexpr char kTemplate[] = "CorvaleAnnualOstrel2012.mdb";
 
 // Paths are UTF-8 throughout the program.
 std::string Utf8(const fs::path& path) {
@@ -59,7 +58,7 @@ Found DataFolder::Look(const std::string& name) const {
 void DataFolder::CopyTemplate(const std::string& name) const {
   const fs::path copy = ToPath(PathOf(name));
   std::error_code error;
-  fs::copy_file(program_folder_ / kTemplate, copy, fs::copy_options::overwrite_existing, error);
+  fs::copy_file(program_folder_ / kTemplateFile, copy, fs::copy_options::overwrite_existing, error);
   if (!error) {
     fs::permissions(copy, fs::perms::owner_write, fs::perm_options::add, error);
     return;

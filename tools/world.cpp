@@ -128,7 +128,7 @@ int FakePrinter::OwnerPrintPageCount(const Grid& grid, double left, double top, 
 
 World::World() : host(survey, {dialogs, printer, settings, program_folder}) {
   program_folder.path = folder.path();
-  fs::copy_file(TemplateFile(), folder.path() / "CorvaleAnnualOstrel2012.mdb");
+  fs::copy_file(TemplateFile(), folder.path() / kTemplateFile);
   host.set_view(this);
   survey.set_statement_observer(
       [this](std::string_view statement) { statements.emplace_back(statement); });

@@ -20,7 +20,7 @@ namespace survey::testing {
 class DesktopTest : public ::testing::Test {
  protected:
   DesktopTest() {
-    std::filesystem::copy_file(TemplateFile(), folder_.path() / "CorvaleAnnualOstrel2012.mdb");
+    std::filesystem::copy_file(TemplateFile(), folder_.path() / kTemplateFile);
     desktop_ = std::make_unique<Desktop>(DesktopPlaces{
         folder_.path(), QString::fromStdString((folder_.path() / "settings.ini").string())});
     RegisterShell(desktop_->host());

@@ -203,7 +203,7 @@ TEST_F(SelectDatabase, AboutDoesWithoutSystemInformation) {
 }
 
 TEST_F(SelectDatabase, AMissingTemplateShowsOnTheSiteList) {
-  fs::remove(folder.path() / "CorvaleAnnualOstrel2012.mdb");
+  fs::remove(folder.path() / kTemplateFile);
   Start();
   Tick("chkNew");
   NameNewDatabase("Zinnia");
