@@ -8,7 +8,7 @@
 
 namespace survey {
 
-// The program's own pictures, drawn at the size asked for, so that they are sharp on any screen.
+// The program's own pictures, which desktop/pictures holds as drawings.
 
 // Picture of a message box; null for Picture::kNone. `size` is the side in logical pixels,
 // `pixel_ratio` that of the screen it is for.

@@ -2,7 +2,7 @@
 # commands at the top of the repository.
 
 build_packages="g++ cmake ninja-build pkg-config libsqlcipher-dev libssl-dev libicu-dev libcsv-dev \
-qt6-base-dev fonts-dejavu-core fonts-liberation"
+librsvg2-bin qt6-base-dev fonts-dejavu-core fonts-liberation"
 package_packages="dpkg-dev file"
 test_packages="libgtest-dev libgmock-dev clang-format poppler-utils $package_packages xvfb xdotool \
 fakeroot desktop-file-utils"
