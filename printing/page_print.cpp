@@ -6,14 +6,10 @@ namespace survey {
 namespace {
 
 constexpr double kLeft = 500;
-constexpr double kSheetHeadLeft = 140;  // of the head line of a staff sheet
 
 void PrintHead(Printer& printer, const std::string& head_line, double left,
                std::string_view title) {
-  printer.SetFont("Times New Roman", 12, true);
-  printer.SetCurrentX(left);
-  printer.SetCurrentY(130);
-  printer.Print(head_line);
+  BeginHead(printer, left, head_line);
   printer.Print("");
   if (!title.empty()) {
     printer.SetCurrentX(kLeft);
@@ -47,6 +43,13 @@ std::string HeadLine(Head head, double campus_emis_number, const std::string& st
       return " Staff Details:  " + staff_id;
   }
   return {};
+}
+
+void BeginHead(Printer& printer, double left, std::string_view line) {
+  printer.SetFont("Times New Roman", 12, true);
+  printer.SetCurrentX(left);
+  printer.SetCurrentY(130);
+  printer.Print(line);
 }
 
 void PrintPage(Printer& printer, const PagePrint& page, const std::string& head_line,

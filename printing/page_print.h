@@ -54,6 +54,12 @@ using GridOf = std::function<const Grid&(std::string_view name, int index)>;
 void PrintPage(Printer& printer, const PagePrint& page, const std::string& head_line,
                const GridOf& grid_of);
 
+inline constexpr double kSheetHeadLeft = 140;  // twips, of the head line of a staff sheet
+
+// The font of all heads and their first line, which begins at `left` twips. Throws RunTimeError
+// when the printer fails.
+void BeginHead(Printer& printer, double left, std::string_view line);
+
 // Prints what `page` adds as `sheet`. Throws RunTimeError when the printer fails.
 void PrintSheet(Printer& printer, const PagePrint& page, const StaffSheet& sheet,
                 const std::string& head_line, const GridOf& grid_of);

@@ -297,10 +297,7 @@ void FrmSelectEducator::PrintList() {
   const double right = printer.Width();
   const double bottom = printer.Height() - kBottomMargin;
   const int pages = printer.OwnerPrintPageCount(gridEducator, 100, 1000, right, bottom);
-  printer.SetFont("Times New Roman", 12, true);
-  printer.SetCurrentX(140);
-  printer.SetCurrentY(130);
-  printer.Print("");
+  BeginHead(printer, kSheetHeadLeft, "");
   printer.SetCurrentX(500);
   printer.Print("Educator List ");
   printer.SetCurrentX(500);
