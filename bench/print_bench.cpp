@@ -55,6 +55,14 @@ void ForgetPeak() { std::ofstream("/proc/self/clear_refs") << "5" << std::flush;
 // Prints all jobs in one file, for which it is asked once.
 class OneFile : public QtPrinter {
  public:
+  // Prints into the file that `file` names by then; it must outlive the printer.
+  explicit OneFile(const std::string& file)
+      : QtPrinter([&file](QPrinter& printer) {
+          printer.setOutputFormat(QPrinter::PdfFormat);
+          printer.setOutputFileName(QString::fromStdString(file));
+          return true;
+        }) {}
+
   void ShowPrinter() override {
     if (!shown_) QtPrinter::ShowPrinter();
     shown_ = true;
@@ -113,7 +121,8 @@ double PrintPlainly(const std::vector<QStringList>& sheets, int times, const std
 
 Measured Measure(const Size& size) {
   testing::World world;
-  OneFile printer;
+  std::string file;
+  OneFile printer(file);
   FormHost host(world.survey, {world.dialogs, printer, world.settings, world.program_folder});
   RegisterShell(host);
   RegisterPages(host);
@@ -124,8 +133,7 @@ Measured Measure(const Size& size) {
   Form& list = host.Get("frmSelectEducator");
   list.Form_Activate();
   const auto print_to = [&](const char* name, int prints) {
-    const std::string file = (world.folder.path() / name).string();
-    printer.PrintToFile(QString::fromStdString(file));
+    file = (world.folder.path() / name).string();
     for (int i = 0; i < prints; ++i) list.Find<Button>("cmdPrintSurvey").Click();
     printer.Complete();
     return static_cast<double>(std::filesystem::file_size(file)) / 1024;

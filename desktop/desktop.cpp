@@ -10,7 +10,6 @@
 
 #include "desktop/pictures.h"
 #include "desktop/qt_dialogs.h"
-#include "desktop/qt_printer.h"
 #include "desktop/qt_program_folder.h"
 #include "desktop/qt_settings.h"
 #include "forms/message_boxes.h"
@@ -68,7 +67,9 @@ class SurveyStyle : public QProxyStyle {
 
 struct Desktop::Parts {
   explicit Parts(const DesktopPlaces& places)
-      : settings(places.settings_file), program_folder(places.program_folder) {
+      : printer(places.choose_printer),
+        settings(places.settings_file),
+        program_folder(places.program_folder) {
     QObject::connect(&view, &DesktopView::ActionEnded, &view, [this] { printer.Finish(); });
   }
 

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "desktop/desktop_view.h"
+#include "desktop/qt_printer.h"
 #include "forms/form_host.h"
 #include "printing/printer.h"
 #include "store/survey.h"
@@ -15,10 +16,12 @@ namespace survey {
 // Gives the running QApplication the program's name, icon and looks. Before the first Desktop.
 void SetUpApplication();
 
-// Where a program finds its files. Empty: the executable's folder, the user's own settings.
+// Where a program finds its files and prints to. Empty: the executable's folder, the user's own
+// settings.
 struct DesktopPlaces {
   std::filesystem::path program_folder = {};
   QString settings_file = {};
+  PrinterChoice choose_printer = AskForPrinter;
 };
 
 // The whole program on a desktop, without its forms: those are registered with host().

@@ -6,6 +6,7 @@
 #include <QPageLayout>
 #include <QPrintDialog>
 #include <cmath>
+#include <utility>
 
 #include "base/run_time_error.h"
 #include "desktop/grid_pages.h"
@@ -29,7 +30,14 @@ QPageLayout::Orientation ToQt(Orientation orientation) {
 
 }  // namespace
 
-QtPrinter::QtPrinter() : printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
+bool AskForPrinter(QPrinter& printer) {
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+QtPrinter::QtPrinter(PrinterChoice choose)
+    : choose_(std::move(choose)), printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
   printer_->setPageSize(QPageSize(QPageSize::A4));
   printer_->setDocName(kProgramName);
 }
@@ -43,15 +51,8 @@ void QtPrinter::Finish() {
 
 void QtPrinter::ShowPrinter() {
   Finish();
-  if (!answer_.isEmpty()) {
-    printer_->setOutputFormat(QPrinter::PdfFormat);
-    printer_->setOutputFileName(answer_);
-    return;
-  }
   printer_->setPageOrientation(ToQt(orientation_));
-  QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
-  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-  if (dialog.exec() != QDialog::Accepted) throw CancelWasSelected();
+  if (!choose_(*printer_)) throw CancelWasSelected();
   orientation_ = printer_->pageLayout().orientation() == QPageLayout::Landscape
                      ? Orientation::kLandscape
                      : Orientation::kPortrait;
@@ -79,7 +80,7 @@ QPainter& QtPrinter::Page() {
 }
 
 void QtPrinter::BeginPage() {
-  // A file takes each page's orientation; a printer takes none while it works.
+  // A PDF file may turn each page, a printer only before the job begins.
   if (!painter_ || ToPdf()) printer_->setPageOrientation(ToQt(orientation_));
   if (!painter_) {
     BeginJob();
@@ -97,7 +98,7 @@ void QtPrinter::BeginJob() {
   if (!painter_->begin(printer_.get())) Fail();
 }
 
-// From here on a unit of the painter is a twip, also on a sheet that lies across the printer's.
+// Scales the painter to twips, and turns it where the printer's sheet lies the other way.
 void QtPrinter::SetUpPage() {
   painter_->resetTransform();
   const double scale = printer_->resolution() / kTwipsPerInch;
@@ -118,7 +119,7 @@ void QtPrinter::LeavePage() {
   x_ = y_ = 0;
 }
 
-// The next page is begun with what is printed next: none follows the last one blank.
+// What is printed next begins the page, so that no blank one follows the last.
 void QtPrinter::NewPage() { LeavePage(); }
 
 void QtPrinter::EndDoc() {

@@ -4,23 +4,27 @@
 #include <QFont>
 #include <QPainter>
 #include <QPrinter>
-#include <QString>
+#include <functional>
 #include <memory>
 
 #include "printing/printer.h"
 
 namespace survey {
 
-// Prints on what the user chooses in the print dialog. Each job goes to a printer by itself; to a
+// Chooses a printer, or a file to print to, for the jobs that follow; false after Cancel.
+using PrinterChoice = std::function<bool(QPrinter&)>;
+
+// Lets the user choose in the print dialog.
+bool AskForPrinter(QPrinter& printer);
+
+// Prints on what is chosen. Each job goes to a printer by itself; to a
 // PDF file all jobs since the choice go one after the other, for a file that each job wrote anew
 // would hold the last one only.
 class QtPrinter : public Printer {
  public:
-  QtPrinter();
+  explicit QtPrinter(PrinterChoice choose = AskForPrinter);
   ~QtPrinter() override;
 
-  // Answers the dialog from now on: all prints go into this PDF file. "" asks the user again.
-  void PrintToFile(const QString& path) { answer_ = path; }
   // Completes what has been printed. To be called when the user's action has ended.
   void Finish();
 
@@ -52,7 +56,7 @@ class QtPrinter : public Printer {
   // Width and height of the sheet in twips, upright.
   QSizeF Sheet() const;
 
-  QString answer_;
+  PrinterChoice choose_;
   std::unique_ptr<QPrinter> printer_;
   std::unique_ptr<QPainter> painter_;  // while something is being printed
   QFont font_;

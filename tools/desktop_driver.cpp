@@ -31,6 +31,15 @@ QModelIndex EntryOf(const QAbstractItemModel& model, const std::string& text) {
 
 }  // namespace
 
+PrinterChoice PrintInto(const QString& file) {
+  return [&file](QPrinter& printer) {
+    if (file.isEmpty()) return AskForPrinter(printer);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    return true;
+  };
+}
+
 DesktopDriver::DesktopDriver(Desktop& desktop)
     : desktop_(desktop), watch_(std::make_unique<QTimer>()) {
   QObject::connect(watch_.get(), &QTimer::timeout, watch_.get(), [this] { AnswerDialog(); });

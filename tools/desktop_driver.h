@@ -21,6 +21,10 @@ class Mismatch : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// Chooses the PDF file that `file` names by then; while it names none the user is asked. `file`
+// must outlive the choice.
+PrinterChoice PrintInto(const QString& file);
+
 // Works a Desktop as a user does: finds widgets by name in the window in front, and touches only
 // what is visible and enabled. Whatever it cannot do throws Mismatch.
 class DesktopDriver {

@@ -14,7 +14,6 @@
 #include <iostream>
 #include <iterator>
 
-#include "desktop/qt_printer.h"
 #include "desktop_driver.h"
 #include "filled_survey.h"
 #include "form_inspector.h"
@@ -26,7 +25,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kTemplate[] = "CorvaleAnnualOstrel2012.mdb";
 constexpr char kDatabase[] = "Duinekop Campus";
 constexpr char kProvince[] = "Western Cape";
 constexpr char kCollege[] = "Blouklip FET College";
@@ -80,7 +78,9 @@ void Expect(bool holds, const std::string& what) {
 class Tour {
  public:
   Tour(fs::path output, const DesktopPlaces& places)
-      : output_(std::move(output)), desktop_(places), driver_(desktop_) {
+      : output_(std::move(output)),
+        desktop_({places.program_folder, places.settings_file, PrintInto(print_file_)}),
+        driver_(desktop_) {
     RegisterShell(desktop_.host());
     RegisterPages(desktop_.host());
     desktop_.view().window().resize(kPictureSize);
@@ -116,6 +116,7 @@ class Tour {
   void TypeFigures();
 
   fs::path output_;
+  QString print_file_;
   Desktop desktop_;
   DesktopDriver driver_;
   FormInspector inspector_{driver_};
@@ -299,8 +300,7 @@ int SheetsIn(const fs::path& file) {
 void Tour::PrintTo(const std::string& name, const std::string& button, int sheets) {
   const fs::path file = output_ / (name + ".pdf");
   fs::remove(file);
-  auto& printer = dynamic_cast<QtPrinter&>(desktop_.host().platform().printer);
-  printer.PrintToFile(QString::fromStdString(file.string()));
+  print_file_ = QString::fromStdString(file.string());
   driver_.Click(button);
   Expect(SheetsIn(file) == sheets, file.string() + " has " + std::to_string(sheets) + " sheets");
 }
@@ -374,7 +374,7 @@ DesktopPlaces MakePlaces(const fs::path& output, const fs::path& template_file) 
   const fs::path folder = output / "program";
   fs::remove_all(folder);
   fs::create_directories(folder);
-  fs::copy_file(template_file, folder / kTemplate);
+  fs::copy_file(template_file, folder / kTemplateFile);
   return {folder, QString::fromStdString((folder / "settings.ini").string())};
 }
 
@@ -395,7 +395,7 @@ int main(int argc, char** argv) {
     const std::filesystem::path output = std::filesystem::absolute(argv[1]);
     const std::filesystem::path beside = QCoreApplication::applicationDirPath().toStdString();
     const survey::DesktopPlaces places =
-        survey::MakePlaces(output, argc == 3 ? argv[2] : beside / survey::kTemplate);
+        survey::MakePlaces(output, argc == 3 ? argv[2] : beside / survey::kTemplateFile);
     survey::FirstRun(output, places);
     survey::SecondRun(output, places);
     std::cout << "All as it should be. The pictures and the database are in " << output.string()

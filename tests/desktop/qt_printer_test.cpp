@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "base/run_time_error.h"
+#include "desktop_driver.h"
 #include "grid/grid.h"
 #include "world.h"
 
@@ -24,7 +25,6 @@ using ::testing::Throws;
 class QtPrinterTest : public ::testing::Test {
  protected:
   QtPrinterTest() {
-    printer_.PrintToFile(file_);
     printer_.ShowPrinter();
     printer_.SetFont("Times New Roman", 12, true);
   }
@@ -51,7 +51,7 @@ class QtPrinterTest : public ::testing::Test {
 
   TemporaryFolder folder_;
   QString file_ = QString::fromStdString((folder_.path() / "survey.pdf").string());
-  QtPrinter printer_;
+  QtPrinter printer_{PrintInto(file_)};
 };
 
 TEST_F(QtPrinterTest, GathersTheJobsOfOneChoiceInOneFile) {
@@ -95,20 +95,20 @@ TEST_F(QtPrinterTest, BreaksAGridBetweenRowsAndColumns) {
 }
 
 TEST_F(QtPrinterTest, SaysThatAFileCannotBeWritten) {
-  const QString nowhere = QString::fromStdString((folder_.path() / "none" / "x.pdf").string());
-  printer_.PrintToFile(nowhere);
+  const QString somewhere =
+      std::exchange(file_, QString::fromStdString((folder_.path() / "none" / "x.pdf").string()));
   printer_.ShowPrinter();
   EXPECT_THAT([this] { printer_.Print("lost"); },
               Throws<RunTimeError>(AllOf(Property(&RunTimeError::number, 482),
                                          Property(&RunTimeError::what, HasSubstr("x.pdf")))));
-  printer_.PrintToFile(file_);
+  file_ = somewhere;
   printer_.ShowPrinter();
   PrintJob("after a failure");
   EXPECT_EQ(Sheets(), "595x842");
 }
 
 TEST_F(QtPrinterTest, CancelPrintsNothing) {
-  printer_.PrintToFile("");
+  file_.clear();
   bool asked = false;
   QTimer cancel;
   QObject::connect(&cancel, &QTimer::timeout, qApp, [&] {

@@ -47,11 +47,9 @@ class FilledSurvey : public World, public ::testing::Test {
   }
 
   std::vector<Sheet> Print(const char* form, const char* button) {
-    const QString file = QString::fromStdString((folder.path() / "print.pdf").string());
-    printer_.PrintToFile(file);
     host_.Get(form).Find<Button>(button).Click();
     printer_.Finish();
-    return SheetsOf(file);
+    return SheetsOf(file_);
   }
 
   // Takes off the sheet what was entered in these grids of the page, and the totals over it.
@@ -65,7 +63,8 @@ class FilledSurvey : public World, public ::testing::Test {
   }
 
   Figures figures_;
-  QtPrinter printer_;
+  const QString file_ = QString::fromStdString((folder.path() / "print.pdf").string());
+  QtPrinter printer_{PrintInto(file_)};
   FormHost host_;
   std::vector<FilledPage> campus_;
 };

@@ -22,7 +22,6 @@
 #include <vector>
 
 #include "desktop/desktop.h"
-#include "desktop/qt_printer.h"
 #include "filled_site.h"
 #include "findings.h"
 #include "hand_inputs.h"
@@ -36,7 +35,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kTemplate[] = "CorvaleAnnualOstrel2012.mdb";
 constexpr int kLookEveryMs = 1;
 constexpr int kLongInDialog = 60;  // steps, after which it is closed
 // Looks during which an action neither ends nor opens a dialog: it waits for something to be
@@ -52,7 +50,7 @@ class RandomHands {
  public:
   RandomHands(std::uint32_t seed, int steps, std::function<void(const std::string&)> on_action)
       : dice_(seed), steps_(steps), on_action_(std::move(on_action)) {
-    fs::copy_file(TemplateFile(), folder_.path() / kTemplate);
+    fs::copy_file(TemplateFile(), folder_.path() / kTemplateFile);
     fs::create_directory(folder_.path() / "Data2012");
     FilledSite site;
     site.SaveAll(1);
@@ -102,7 +100,8 @@ class RandomHands {
     desktop_.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const QString settings = QString::fromStdString((folder_.path() / "settings.ini").string());
-    desktop_ = std::make_unique<Desktop>(DesktopPlaces{folder_.path(), settings});
+    desktop_ =
+        std::make_unique<Desktop>(DesktopPlaces{folder_.path(), settings, PrintInto(print_file_)});
     RegisterShell(desktop_->host());
     RegisterPages(desktop_->host());
     desktop_->host().Start("frmSelectDatabase");
@@ -380,8 +379,7 @@ class RandomHands {
   void PrintElsewhere() {
     const bool asks = Chance(30);
     Note(asks ? "will print after the dialog" : "will print into the file");
-    auto& printer = dynamic_cast<QtPrinter&>(desktop_->host().platform().printer);
-    printer.PrintToFile(asks ? QString() : PrintFile());
+    print_file_ = asks ? QString() : PrintFile();
   }
 
   // ---- What must be ----------------------------------------------------------------------------
@@ -423,6 +421,7 @@ class RandomHands {
   TemporaryFolder folder_;
   CipherKeys keys_;
   std::map<std::string, fs::file_time_type> written_;
+  QString print_file_;  // "": the print dialog asks
   std::unique_ptr<Desktop> desktop_;
   QTimer watch_;
   std::vector<QWidget*> worked_on_;  // dialogs that actions work on, the last one in front
