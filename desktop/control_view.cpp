@@ -32,8 +32,8 @@ constexpr int kTextBoxCharacters = 6;  // that a box shows at least
 
 // ---- Label ---------------------------------------------------------------------------------
 
-// A text that may be broken would ask for a square place: one that is not long asks for a line of
-// its own, and takes less than half of it.
+// Qt's size hint of a text that may wrap is about a square. This one is a whole line for all but
+// long texts, and less than half of it where there is no room.
 class LabelWidget : public QLabel {
  public:
   using QLabel::QLabel;
@@ -78,7 +78,7 @@ class LabelView : public ControlView {
 
 // ---- Frame ---------------------------------------------------------------------------------
 
-// A frame without a title is there to be hidden with all it holds, and has no border.
+// A frame without a title only groups what is hidden together, and has no border.
 class FrameWidget : public QGroupBox {
  public:
   using QGroupBox::QGroupBox;
@@ -225,7 +225,7 @@ class OptionButtonView : public ControlView {
  private:
   void RefreshState() override {
     if (widget_.isChecked() == option_.Value()) return;
-    // An exclusive group could not take over that none is chosen.
+    // Qt lets no button of an exclusive group be unchecked by itself.
     const QSignalBlocker blocker(widget_);
     group_.setExclusive(false);
     widget_.setChecked(option_.Value());
@@ -285,7 +285,7 @@ class TextBoxView : public ControlView {
     }
     const QString text = QString::fromStdString(box_.Text);
     if (widget_.text() == text) return;
-    // What stands behind the cursor stays behind it when characters before it were left out.
+    // The cursor stays before the same text, also where characters that were typed are left out.
     const qsizetype behind = widget_.text().size() - widget_.cursorPosition();
     widget_.setText(text);
     widget_.setCursorPosition(static_cast<int>(text.size() - behind));

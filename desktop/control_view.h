@@ -12,7 +12,7 @@ class QButtonGroup;
 namespace survey {
 
 // The widget of one control. It keeps nothing of the control's state: what the user does goes to
-// the control's user side, and Refresh() shows what the control then holds.
+// the control's user side, and Refresh() shows what the control holds after it.
 class ControlView {
  public:
   virtual ~ControlView() = default;
@@ -22,7 +22,7 @@ class ControlView {
   void Refresh();
   // False when something typed here is refused and would be lost.
   virtual bool CommitEntry() { return true; }
-  // Whether a form that comes up would let the user begin here.
+  // Whether this is where the user of a form that has come up begins: a table with an open cell.
   virtual bool IsOpenForEntry() const { return false; }
 
   Control& control() const { return control_; }
@@ -48,10 +48,10 @@ struct FormContext {
   std::function<QButtonGroup*(const std::string& group)> option_group;
 };
 
-// The view of a control of any kind. That of a Frame has no layout yet.
+// The view of a control of any kind. Whoever asks for that of a Frame gives it its layout.
 std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext& context);
 
-// Colours a widget as the control says; the standard colour gives the style's own back.
+// Paints a widget in the control's colour; in the style's own where that is `standard`.
 void ShowBackColor(QWidget& widget, Color color, Color standard);
 
 }  // namespace survey

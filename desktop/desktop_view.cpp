@@ -15,7 +15,7 @@ namespace {
 
 constexpr QSize kWindowSize(1200, 720);
 constexpr QSize kSmallestWindow(640, 420);
-// What a desktop puts around and beside a window.
+// Room for the window's own frame and title, and for the desktop's bars.
 constexpr QSize kWindowBorders(16, 48);
 
 class MainWindow : public QMainWindow {
@@ -118,7 +118,7 @@ void DesktopView::RunModal(Form& form) {
   dialog.Refresh();
   dialog.resize(dialog.sizeHint());  // left alone it takes two thirds of the screen at most
   dialog.exec();
-  // The whole desktop may be closing under an open dialog.
+  // Still loaded where the whole desktop is closing and has ended the dialog itself.
   if (form.loaded()) host_.CloseBox(form);
   std::erase(dialogs_, &dialog);
 }
@@ -142,7 +142,7 @@ void DesktopView::DropUnloaded() {
     const auto& [form, widget] = shown;
     if (form->loaded()) return false;
     pages_->removeWidget(widget);
-    // One of its buttons may be what runs now.
+    // Later: this may run within a click of one of its buttons.
     widget->deleteLater();
     return true;
   });

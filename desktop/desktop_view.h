@@ -21,7 +21,7 @@ class DesktopView : public QObject, public FormsView {
   Q_OBJECT
 
  public:
-  // `forms` must outlive the view, which is its view from now on.
+  // `host` must outlive the view, and shows its forms by it from now on.
   explicit DesktopView(FormHost& host);
   ~DesktopView() override;
 

@@ -11,7 +11,7 @@
 
 namespace survey {
 
-// A word to the user at a cell: why an entry was refused. Unlike a tool tip it outlasts the click
+// Tells the user at a cell why an entry was refused. Unlike a tool tip it outlasts the click
 // that caused it, until the user goes on. Screen readers say it.
 class EntryNote {
  public:

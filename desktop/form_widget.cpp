@@ -18,9 +18,9 @@ constexpr int kMargin = 14;
 constexpr int kSpacing = 10;
 constexpr int kBlockSpacing = 14;  // between the parts of the form itself
 constexpr int kFrameMargin = 12;
-// A form stands in the middle of the window.
+// Forms are no wider than this, unless a table is, and stand in the middle of the window.
 constexpr int kReadingWidth = 860;
-// Stretch of what takes all it may before the space beside it takes any.
+// Stretch factor of what grows up to its maximum before the space beside it gets any room.
 constexpr int kFirst = 100000;
 constexpr int kFieldWidth = 520;
 constexpr int kDialogWidth = 480;
@@ -39,7 +39,7 @@ class Contents : public QWidget {
   int heightForWidth(int width) const override { return layout()->minimumHeightForWidth(width); }
 };
 
-// Qt keeps a scroll bar that it needed once, where texts fit only without it.
+// Qt keeps a scroll bar once it was needed, although the texts may need no scrolling without it.
 class ContentsArea : public QScrollArea {
  public:
   using QScrollArea::QScrollArea;
@@ -106,7 +106,7 @@ FormWidget::FormWidget(Form& form, QWidget* parent)
 
 FormWidget::~FormWidget() = default;
 
-// A block stands in the middle of its place, side to side.
+// Adds a column that is centred horizontally in `place`.
 QVBoxLayout* FormWidget::AddBlock(QWidget& place) {
   auto* across = new QHBoxLayout(&place);
   across->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -120,7 +120,7 @@ QVBoxLayout* FormWidget::AddBlock(QWidget& place) {
   return column;
 }
 
-// No wider than the tables are and the foot, or than reads well.
+// As wide as the widest table or the foot asks for, and kReadingWidth at least.
 void FormWidget::FitWidth() {
   int width = kReadingWidth;
   for (const QWidget* block : blocks_) width = std::max(width, block->sizeHint().width());
@@ -131,7 +131,7 @@ void FormWidget::BringIntoView(QWidget& widget) {
   if (scroll_->widget()->isAncestorOf(&widget)) scroll_->ensureWidgetVisible(&widget);
 }
 
-// The scroll area sees to it only while the focus was in it before.
+// The scroll area scrolls to the focus only where the focus was in it before.
 bool FormWidget::focusNextPrevChild(bool next) {
   const bool moved = QWidget::focusNextPrevChild(next);
   if (QWidget* focus = focusWidget()) BringIntoView(*focus);
@@ -142,7 +142,7 @@ void FormWidget::Refresh() {
   const QWidget* const before = focusWidget();
   for (const auto& view : views_) view->Refresh();
   FitWidth();
-  // Whoever has had a part of the form exchanged for another begins at the new part's start.
+  // Code has hidden the part of the form that had the focus: begin in the part shown instead.
   if (before != nullptr && !before->isVisibleTo(this)) begun_ = false;
   if (const Control* wished = form_.TakeFocusRequest()) {
     begun_ = true;
@@ -294,7 +294,7 @@ QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
       .option_group = [this](const std::string& group) { return OptionGroup(group); },
   };
   views_.push_back(MakeControlView(control, context));
-  // Texts decide how much room there must be, which layouts remember once they are asked.
+  // Now, since layouts ask once how much room the texts need, and remember it.
   views_.back()->Refresh();
   return views_.back()->widget();
 }

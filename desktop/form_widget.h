@@ -17,7 +17,7 @@ namespace survey {
 
 // The contents of one form's window: builds widgets from the form's layout, each under its
 // control's name, and shows what the controls hold. It scrolls where the window is too small; the
-// buttons at the foot of a form with tables stay in view.
+// form's foot stays in view.
 class FormWidget : public QWidget {
   Q_OBJECT
 
@@ -60,7 +60,7 @@ class FormWidget : public QWidget {
   std::vector<QWidget*> blocks_;  // the scrolled contents, then the foot where there is one
   std::vector<std::unique_ptr<ControlView>> views_;  // in the order of the layout
   std::map<std::string, QButtonGroup*> option_groups_;
-  bool begun_ = false;  // the focus has found its first place
+  bool begun_ = false;  // the focus has been given to the control that the user begins with
 };
 
 }  // namespace survey

@@ -26,7 +26,7 @@ void GridBand::paintEvent(QPaintEvent* event) {
   actions_.paint(painter, event->rect());
 }
 
-// The band neither selects nor resizes: a press means nothing until it is a click.
+// No selecting and no resizing, which QHeaderView does on a press; only a click counts.
 void GridBand::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void GridBand::mouseMoveEvent(QMouseEvent* event) { event->accept(); }

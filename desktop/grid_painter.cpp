@@ -11,7 +11,7 @@
 namespace survey {
 namespace {
 
-// Colours that are the same whatever the survey says.
+// Colours that no page and no grid design sets.
 constexpr QColor kText(0, 0, 0);
 constexpr QColor kTextOnDark(255, 255, 255);
 constexpr QColor kLine(96, 96, 96);
@@ -152,7 +152,7 @@ void GridPainter::PaintLines(QPainter& painter, const QRect& rect) const {
   QPen pen(kLine, Units(kLineWidth), Qt::SolidLine, Qt::SquareCap);
   QRectF edges(rect.topLeft(), rect.bottomRight());
   if (const double ratio = painter.device()->devicePixelRatio(); ratio > 1) {
-    // Whole dots, else the lines of a screen at 125 % come out unlike each other.
+    // Whole pixels, else lines differ in width on a screen at 125 %.
     pen.setCosmetic(true);
     pen.setWidth(static_cast<int>(std::lround(ratio)));
     edges.translate(0.5, 0.5);

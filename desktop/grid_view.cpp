@@ -114,7 +114,7 @@ void GridView::Measure() {
   LayOut();
 }
 
-// At once: cells that changed their size under the next click would be missed by it.
+// At once, so that the next click meets the cells where they are drawn.
 void GridView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() == QEvent::FontChange) Measure();
@@ -124,7 +124,7 @@ void GridView::FollowActiveCell() {
   const QModelIndex active = model_->IndexOf(Active());
   if (active == currentIndex()) return;
   if (list_) {
-    // A row that code went to is not one that the user chose, and must not look like it.
+    // Without selecting it: only a row that the user chose is shown as chosen.
     selectionModel()->setCurrentIndex(active, QItemSelectionModel::Clear);
   } else {
     setCurrentIndex(active);
@@ -164,7 +164,7 @@ void GridView::SetSpans() {
   }
 }
 
-// The table itself and room for its scroll bars: beyond that a form's other parts may have it.
+// The whole table and room for its scroll bars; the view never grows beyond that.
 QSize GridView::sizeHint() const {
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
   return sheet_->Size() + QSize(bar, bar);
@@ -184,7 +184,7 @@ void GridView::updateGeometries() {
   corner_->raise();
 }
 
-// The cursor was placed before the view had its size: what need not scroll shows its start.
+// Code has placed the cursor, and scrolled to it, before the view had its size.
 void GridView::showEvent(QShowEvent* event) {
   QTableView::showEvent(event);
   scrollToTop();
@@ -287,19 +287,19 @@ bool GridView::ListKey(const QKeyEvent& event) {
     grid_.Click(Active().column, 0);  // the head over the cursor, by which a list is sorted
     return true;
   }
-  // The cursor of a list chooses nothing by itself: the first Down chooses where it stands.
+  // While no row is chosen, the first Down chooses the one where the cursor is.
   const bool enters = event.key() == Qt::Key_Down && !selectionModel()->hasSelection();
   if (!enters && !IsEnter(event) && event.key() != Qt::Key_Space) return false;
   Choose();
   return true;
 }
 
-// A key that types nothing is no search, but in a list it is one.
+// Typing finds an entry in a list; in a table it enters, and a key that is refused is no search.
 void GridView::keyboardSearch(const QString& search) {
   if (list_) QTableView::keyboardSearch(search);
 }
 
-// What the key that ended an entry does besides.
+// Moves on from the cell as the key says that ended its entry.
 void GridView::GoOn(QKeyEvent* key) {
   if (IsEnter(*key)) {
     Step(key->modifiers().testFlag(Qt::ShiftModifier));
@@ -328,7 +328,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
   QTableView::currentChanged(current, previous);
   if (following_ || !current.isValid()) return;
   const Cell cell = GridModel::CellAt(current);
-  // Arrow keys choose in a list, as in any other list; a mouse press goes on to be a click.
+  // Arrow keys choose in a list; after a press of the mouse its release does, as a click.
   if (list_ && !pressing_) {
     grid_.Click(cell.column, cell.row);
   } else {

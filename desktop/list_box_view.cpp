@@ -16,8 +16,8 @@ class ListWidget : public QListView {
   }
 
  protected:
-  // What is chosen stays so until another entry is: neither a click below the last one nor Ctrl
-  // takes it back.
+  // Only choosing another entry ends a choice: a click below the last one does not, nor does a
+  // click with Ctrl.
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override {
     if (!index.isValid()) return QItemSelectionModel::NoUpdate;
@@ -38,7 +38,7 @@ class ListWidget : public QListView {
   void keyPressEvent(QKeyEvent* event) override {
     const int before = list_.ListIndex();
     QListView::keyPressEvent(event);
-    // The first key enters the list at its top, where it may have stood unseen.
+    // Qt may already have its cursor, unseen, on the first entry, and would go to the second.
     const bool enters = before < 0 && event->key() == Qt::Key_Down;
     const int row = enters ? 0 : currentIndex().row();
     const bool moved = row != before && selectionModel()->hasSelection();

@@ -52,7 +52,8 @@ class Form {
   }
 
   const std::vector<Control*>& controls() const { return controls_; }
-  // The control (or grid) of that name and index; throws std::out_of_range where there is none.
+  // The control (or grid) of that name and index; throws std::out_of_range where there is none,
+  // std::bad_cast where it is of another kind.
   template <typename Kind>
   Kind& Find(std::string_view name, int index = kNoIndex) const {
     return dynamic_cast<Kind&>(FindControl(name, index));

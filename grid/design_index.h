@@ -18,7 +18,7 @@ struct CellDesign {
   int total = -1;  // place among DesignIndex::totals(), -1 for a cell that is none
 };
 
-// A design turned round, so that what it says of a cell is found without a search. Cells go by
+// What a design says, by cell instead of by rule, so that it is found without a search. Cells go by
 // their position in the order of reading, from 0.
 class DesignIndex {
  public:

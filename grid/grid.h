@@ -26,7 +26,7 @@ struct CellNote {
   std::string text;
 };
 
-// A survey table on screen: what lives of a grid, over its GridDesign.
+// A survey table on screen: the state that changes, over the GridDesign that does not.
 //
 // Two ways in, kept apart. Code reads and writes cells without asking limits or locks, raises no
 // notification, and is silent outside the grid. The user's side obeys locks and limits, answers
