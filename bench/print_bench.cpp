@@ -121,8 +121,8 @@ double PrintPlainly(const std::vector<QStringList>& sheets, int times, const std
 
 Measured Measure(const Size& size) {
   testing::World world;
-  std::string file;
-  OneFile printer(file);
+  std::string path;
+  OneFile printer(path);
   FormHost host(world.survey, {world.dialogs, printer, world.settings, world.program_folder});
   RegisterShell(host);
   RegisterPages(host);
@@ -133,10 +133,10 @@ Measured Measure(const Size& size) {
   Form& list = host.Get("frmSelectEducator");
   list.Form_Activate();
   const auto print_to = [&](const char* name, int prints) {
-    file = (world.folder.path() / name).string();
+    path = (world.folder.path() / name).string();
     for (int i = 0; i < prints; ++i) list.Find<Button>("cmdPrintSurvey").Click();
     printer.Complete();
-    return static_cast<double>(std::filesystem::file_size(file)) / 1024;
+    return static_cast<double>(std::filesystem::file_size(path)) / 1024;
   };
   list.Find<GridControl>("gridEducator").Click(1, 1);
   print_to("first.pdf", 1);  // fonts, keys and pages that are made once

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "base/text.h"
+#include "platform/program_folder.h"
 
 namespace survey {
 namespace {

@@ -18,6 +18,7 @@
 #include "filled_survey.h"
 #include "form_inspector.h"
 #include "pages/survey_pages.h"
+#include "platform/program_folder.h"
 #include "shell/register_shell.h"
 
 namespace survey {

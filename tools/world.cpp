@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "base/text.h"
+#include "platform/program_folder.h"
 #include "template/survey_lists.h"
 #include "template/template.h"
 

@@ -11,6 +11,7 @@
 
 #include "desktop_driver.h"
 #include "pages/survey_pages.h"
+#include "platform/program_folder.h"
 #include "shell/register_shell.h"
 #include "world.h"
 

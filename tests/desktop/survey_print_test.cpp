@@ -9,6 +9,7 @@
 
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_printer.h"
+#include "desktop_driver.h"
 #include "filled_survey.h"
 #include "pages/survey_pages.h"
 #include "shell/register_shell.h"

@@ -3,6 +3,7 @@
 
 #include <fstream>
 
+#include "platform/program_folder.h"
 #include "shell/register_shell.h"
 #include "world.h"
 

@@ -22,10 +22,12 @@
 #include <vector>
 
 #include "desktop/desktop.h"
+#include "desktop_driver.h"
 #include "filled_site.h"
 #include "findings.h"
 #include "hand_inputs.h"
 #include "pages/survey_pages.h"
+#include "platform/program_folder.h"
 #include "shell/register_shell.h"
 #include "shown_form.h"
 #include "store/connection.h"
