@@ -4,6 +4,7 @@ namespace survey {
 
 RunTimeError InvalidProcedureCall() { return {5, "Invalid procedure call or argument"}; }
 RunTimeError Overflow() { return {6, "Overflow"}; }
+RunTimeError OutOfMemory() { return {7, "Out of memory"}; }
 RunTimeError TypeMismatch() { return {13, "Type mismatch"}; }
 RunTimeError FileNotFound() { return {53, "File not found"}; }
 RunTimeError PathNotFound() { return {76, "Path not found"}; }

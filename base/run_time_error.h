@@ -23,6 +23,7 @@ class RunTimeError : public std::runtime_error {
 // The failures that users know by number. Never change a number or a text.
 RunTimeError InvalidProcedureCall();  // 5
 RunTimeError Overflow();              // 6
+RunTimeError OutOfMemory();           // 7
 RunTimeError TypeMismatch();          // 13
 RunTimeError FileNotFound();          // 53
 RunTimeError PathNotFound();          // 76

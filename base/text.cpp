@@ -123,4 +123,9 @@ std::filesystem::path ToPath(std::string_view text) {
   return std::u8string(text.begin(), text.end());
 }
 
+std::string Utf8(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
 }  // namespace survey

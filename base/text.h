@@ -47,8 +47,9 @@ bool IsValidUtf8(std::string_view text);
 // spelled in any case.
 bool EqualsIgnoringCase(std::string_view left, std::string_view right);
 
-// The path that a UTF-8 text names.
+// The path that a UTF-8 text names, and back: paths are UTF-8 throughout the program.
 std::filesystem::path ToPath(std::string_view text);
+std::string Utf8(const std::filesystem::path& path);
 
 }  // namespace survey
 

@@ -1,7 +1,8 @@
 #include "forms/form_host.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <exception>
+#include <new>
 
 #include "forms/form.h"
 
@@ -141,6 +142,11 @@ void FormHost::Guarded(Form& form, const std::function<void()>& handler) {
   } catch (const ProgramEnded&) {
   } catch (const RunTimeError& failure) {
     Untrapped(form, failure);
+  } catch (const std::bad_alloc&) {
+    Untrapped(form, OutOfMemory());
+  } catch (const std::exception& failure) {
+    constexpr double kInternalError = 51;
+    Untrapped(form, {kInternalError, failure.what()});
   }
 }
 

@@ -86,7 +86,8 @@ class FormHost {
   bool ConfirmUnsaved(const Button& cmdSave, Form& form);
 
   // Runs one user action on a form: handler, commit, activation of the form that came to the
-  // front, repaint. A failure that the handler does not trap goes to the form.
+  // front, repaint. A failure that the handler does not trap goes to the form; memory that gives
+  // out, and whatever else went wrong in the program itself, is one too.
   void Dispatch(Form& form, const std::function<void()>& handler);
   // The window's close box: unloads the form without a question.
   void CloseBox(Form& form);

@@ -1,9 +1,12 @@
 #include "shell/data_folder.h"
 
+#include <fstream>
 #include <system_error>
 
+#include "base/run_time_error.h"
 #include "base/text.h"
 #include "platform/program_folder.h"
+#include "store/new_file.h"
 
 namespace survey {
 namespace {
@@ -12,10 +15,19 @@ namespace fs = std::filesystem;
 
 constexpr char kDataFolder[] = "Data2012";
 
-// Paths are UTF-8 throughout the program.
-std::string Utf8(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
+// What the engine lays beside a database, named after it.
+constexpr const char* kCompanions[] = {"-journal", "-wal"};
+
+void CopyFile(const fs::path& original, const fs::path& path) {
+  constexpr std::size_t kBytesAtOnce = 1 << 16;
+  std::ifstream source(original, std::ios::binary);
+  NewFile copy(path);
+  std::string bytes(kBytesAtOnce, '\0');
+  do {
+    source.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    copy.Write({bytes.data(), static_cast<std::size_t>(source.gcount())});
+  } while (source);
+  if (source.eof()) copy.Finish();
 }
 
 }  // namespace
@@ -52,19 +64,28 @@ Found DataFolder::Look(const std::string& name) const {
   if (name.find_first_of("/\\") != std::string::npos) return Found::kFailed;
   std::error_code error;
   const fs::file_status status = fs::symlink_status(ToPath(PathOf(name)), error);
-  if (status.type() == fs::file_type::not_found) return Found::kNo;
-  return status.type() == fs::file_type::none ? Found::kFailed : Found::kYes;
+  if (status.type() == fs::file_type::none) return Found::kFailed;
+  if (status.type() != fs::file_type::not_found) return Found::kYes;
+  // One left without its database is removed; a name too long for it, or a folder, is in the way.
+  const fs::path journal = ToPath(PathOf(name) + kCompanions[0]);
+  const fs::file_type left = fs::symlink_status(journal, error).type();
+  if (left == fs::file_type::none) return Found::kFailed;
+  return left == fs::file_type::directory ? Found::kYes : Found::kNo;
 }
 
 void DataFolder::CopyTemplate(const std::string& name) const {
-  const fs::path copy = ToPath(PathOf(name));
+  const fs::path original = program_folder_ / kTemplateFile;
   std::error_code error;
-  fs::copy_file(program_folder_ / kTemplateFile, copy, fs::copy_options::overwrite_existing, error);
-  if (!error) {
-    fs::permissions(copy, fs::perms::owner_write, fs::perm_options::add, error);
-    return;
+  if (!fs::is_regular_file(original, error)) return;
+  for (const char* companion : kCompanions) {
+    fs::remove(ToPath(PathOf(name) + companion), error);
+    if (error) return;
   }
-  fs::remove(copy, error);
+  try {
+    CopyFile(original, ToPath(PathOf(name)));
+  } catch (const RunTimeError&) {
+    // Whoever opens the database says that there is none.
+  }
 }
 
 }  // namespace survey

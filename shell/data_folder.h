@@ -26,11 +26,15 @@ class DataFolder {
   // Full path of the database of that name, whether it exists or not.
   std::string PathOf(const std::string& name) const;
 
+  const std::filesystem::path& path() const { return folder_; }
+
   // Whether a database of that name may be made: kNo when it is free, kYes when something is
-  // there, kFailed when that cannot be told or the name would lead out of the folder.
+  // there, kFailed when that cannot be told, the name would lead out of the folder, or is too long.
   Found Look(const std::string& name) const;
 
-  // Copies the template to the database of that name. A copy that fails leaves nothing behind.
+  // Copies the template to the database of that name, which appears when it is whole, for its
+  // owner alone; the journal of one that lay there before goes. A copy that fails leaves nothing
+  // behind.
   void CopyTemplate(const std::string& name) const;
 
  private:

@@ -1,5 +1,7 @@
 #include "shell/frmSelectDatabase.h"
 
+#include "base/text.h"
+#include "shell/chosen_database.h"
 #include "store/recordset.h"
 
 namespace survey {
@@ -63,9 +65,8 @@ void FrmSelectDatabase::GetRegistry() {
 void FrmSelectDatabase::SaveRegistry() {
   // The second write replaces the first: only a path that was typed or browsed is remembered.
   const std::filesystem::path folder = host().platform().program_folder.Path();
-  const std::u8string first = (folder / "CorvaleAnnualOstrel.mdb").u8string();
   Settings& settings = host().platform().settings;
-  settings.Save(kApplication, kSection, kKey, {first.begin(), first.end()});
+  settings.Save(kApplication, kSection, kKey, Utf8(folder / "CorvaleAnnualOstrel.mdb"));
   settings.Save(kApplication, kSection, kKey, remembered_path_);
 }
 
@@ -175,6 +176,7 @@ void FrmSelectDatabase::Continue() {
     boxes().UserMessage("Please select a database to continue.");
     return;
   }
+  if (!chkNew.Value() && !CareForChosenDatabase(host(), data_folder_)) return;
   SaveRegistry();
   host().Show("frmSelectCollege");
   host().Unload(*this);

@@ -2,12 +2,16 @@
 #define STORE_CIPHER_KEY_H_
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace survey {
 
 inline constexpr int kSaltBytes = 16;
+inline constexpr std::size_t kDatabasePageBytes = 1024;  // of file format 3
 using Salt = std::array<unsigned char, kSaltBytes>;
 
 // Deriving a key from the password costs some 30 ms, and a page opens up to four connections to
@@ -24,6 +28,10 @@ class CipherKeys {
   std::string password_;
   std::string raw_key_;
 };
+
+// The counter in the first page of a file, as it lies there, which every commit raises by one.
+// Nothing when this is no whole first page under that key.
+std::optional<std::uint32_t> ChangeCounter(std::string_view first_page, std::string_view raw_key);
 
 }  // namespace survey
 

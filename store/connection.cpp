@@ -10,13 +10,20 @@
 
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "store/contents_guard.h"
 #include "store/dialect.h"
+#include "store/left_journal.h"
 
 namespace survey {
 namespace {
 
-constexpr std::uintmax_t kPageBytes = 1024;  // of file format 3
+constexpr std::uintmax_t kPageBytes = kDatabasePageBytes;
 constexpr int kPatienceMilliseconds = 2000;  // how long another program's lock is waited for
+// The engine's steps that one statement may take: a thousand times what the largest of ours needs
+// in a database of the whole country, and over in some seconds.
+constexpr int kStepsAtOnce = 100'000;
+constexpr int kMostWork = 1'000;       // times as many steps
+constexpr int kLongestText = 1 << 20;  // bytes of a field, and of a statement
 constexpr std::string_view kPlainMark{"SQLite format 3\0", kSaltBytes};
 
 RunTimeError Refusal(int code, const std::string& path, const std::string& reason) {
@@ -32,6 +39,8 @@ std::string_view Explained(int extended_code) {
       return "the database file was moved, replaced or removed while it was open";
     case SQLITE_CANTOPEN:
       return "nothing can be written into the folder of the database";
+    case SQLITE_INTERRUPT:
+      return "the statement found no end: the database is not what it should be";
     default:
       return {};
   }
@@ -111,10 +120,56 @@ void Unlock(sqlite3* database, std::string_view key) {
   RequireCipher(database);
 }
 
+// The file as it lies on the disk, through the engine's own descriptor: to open and close another
+// one would drop every lock that this process holds on the file. The engine owns it.
+sqlite3_file* FileOf(sqlite3* database) {
+  sqlite3_file* file = nullptr;
+  sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+  return file;
+}
+
+std::uint64_t SizeOf(sqlite3_file* file) {
+  sqlite3_int64 size = 0;
+  if (file->pMethods->xFileSize(file, &size) != SQLITE_OK) return 0;
+  return static_cast<std::uint64_t>(size);
+}
+
+// A journal that belongs to another file, or to an older or newer state of this one, as where a
+// copy was put back, would be played into it at the first read and leave neither of the two.
+void RequireOwnJournal(sqlite3* database, const std::string& path, std::string_view raw_key) {
+  const std::string journal = path + "-journal";
+  std::error_code error;
+  sqlite3_file* file = FileOf(database);
+  int is_being_written = 0;  // by another program, whose journal it then is
+  if (!std::filesystem::exists(ToPath(journal), error) ||
+      file->pMethods->xCheckReservedLock(file, &is_being_written) != SQLITE_OK ||
+      is_being_written != 0) {
+    return;
+  }
+  std::string first_page(kPageBytes, '\0');
+  const int code = file->pMethods->xRead(file, first_page.data(), static_cast<int>(kPageBytes), 0);
+  if (code != SQLITE_OK ||
+      !IsJournalOfAnother(journal, {SizeOf(file) / kPageBytes, first_page, raw_key})) {
+    return;
+  }
+  throw Refusal(SQLITE_CANTOPEN, path,
+                "is not opened: the file \"" + journal +
+                    "\" beside it comes from the unfinished save of another file or of another "
+                    "state of this one, and would spoil it. If you have put back a copy of the "
+                    "database, move that journal out of the folder and open the database again; "
+                    "if not, put back the file that lay here before");
+}
+
 // The first read of a file tests the password, and takes back what a killed program left undone.
 void ReadFirst(sqlite3* database, const std::string& path) {
+  const ContentsGuard guard(database);
   const int code =
       sqlite3_exec(database, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+  if (guard.found_foreign()) {
+    throw Refusal(SQLITE_NOTADB, path,
+                  "is not a survey database: it holds views, triggers or other things that run by "
+                  "themselves, and is not opened. Ask for the file anew where it came from");
+  }
   if (code == SQLITE_NOTADB) {
     throw Refusal(code, path, "is not a survey database, or has another password");
   }
@@ -157,22 +212,29 @@ void Connection::FinalizeStatement::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
 }
 
-Connection::Connection(std::unique_ptr<sqlite3, CloseDatabase> database)
-    : database_(std::move(database)) {}
+Connection::Connection(sqlite3* database) : database_(database) {
+  sqlite3_limit(database, SQLITE_LIMIT_LENGTH, kLongestText);
+  sqlite3_progress_handler(
+      database, kStepsAtOnce,
+      [](void* work) { return ++*static_cast<int*>(work) > kMostWork ? 1 : 0; }, &work_);
+}
 
 std::unique_ptr<Connection> Connection::Open(const std::string& path, std::string_view password,
                                              CipherKeys& keys) {
   RequireDatabaseFile(path);
   const Salt salt = ReadSalt(path);
-  std::unique_ptr<sqlite3, CloseDatabase> database(OpenFile(path, SQLITE_OPEN_READWRITE));
-  if (sqlite3_db_readonly(database.get(), "main") != 0) {
+  std::unique_ptr<Connection> opened(new Connection(OpenFile(path, SQLITE_OPEN_READWRITE)));
+  sqlite3* database = opened->database_.get();
+  if (sqlite3_db_readonly(database, "main") != 0) {
     throw Refusal(SQLITE_READONLY, path, "cannot be written to");
   }
-  Unlock(database.get(), keys.RawKey(password, salt));
-  ReadFirst(database.get(), path);
-  RemoveLeftJournal(database.get(), path);
-  MakeDurable(database.get());
-  return std::unique_ptr<Connection>(new Connection(std::move(database)));
+  const std::string& raw_key = keys.RawKey(password, salt);
+  Unlock(database, raw_key);
+  RequireOwnJournal(database, path, raw_key);
+  ReadFirst(database, path);
+  RemoveLeftJournal(database, path);
+  MakeDurable(database);
+  return opened;
 }
 
 std::unique_ptr<Connection> Connection::Create(const std::string& path, std::string_view password) {
@@ -180,11 +242,11 @@ std::unique_ptr<Connection> Connection::Create(const std::string& path, std::str
   if (exists(std::filesystem::symlink_status(ToPath(path), error))) {
     throw Refusal(SQLITE_CANTOPEN, path, "exists already");
   }
-  std::unique_ptr<sqlite3, CloseDatabase> database(
-      OpenFile(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE));
-  Unlock(database.get(), password);
-  MakeDurable(database.get());
-  return std::unique_ptr<Connection>(new Connection(std::move(database)));
+  std::unique_ptr<Connection> made(
+      new Connection(OpenFile(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE)));
+  Unlock(made->database_.get(), password);
+  MakeDurable(made->database_.get());
+  return made;
 }
 
 Connection::~Connection() {
@@ -205,6 +267,7 @@ void Connection::Execute(std::string_view statement) {
 
 void Connection::EndGroup() {
   if (!InGroup()) return;
+  work_ = 0;
   try {
     Run(database_.get(), "COMMIT");
   } catch (const RunTimeError&) {
@@ -213,10 +276,49 @@ void Connection::EndGroup() {
   }
 }
 
+void Connection::RequireSoundFile() {
+  work_ = 0;
+  std::string answer;
+  const auto see_answer = [](void* text, int, char** fields, char**) {
+    *static_cast<std::string*>(text) = fields[0] == nullptr ? "" : fields[0];
+    return 0;
+  };
+  if (sqlite3_exec(database_.get(), "PRAGMA quick_check(1)", see_answer, &answer, nullptr) !=
+      SQLITE_OK) {
+    throw EngineError(database_.get());
+  }
+  if (answer != "ok") throw RunTimeError(SQLITE_CORRUPT, std::string(Explained(SQLITE_CORRUPT)));
+}
+
+void Connection::ReadFile(const std::function<bool(std::string_view bytes)>& take) {
+  constexpr int kBytesAtOnce = 1 << 16;
+  work_ = 0;
+  Run(database_.get(), "BEGIN");
+  const std::unique_ptr<sqlite3, void (*)(sqlite3*)> reading(
+      database_.get(),
+      [](sqlite3* database) { sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr); });
+  RequireSoundPages();  // takes the lock of a reader, which no writer passes
+  sqlite3_file* file = FileOf(database_.get());
+  const std::uint64_t size = SizeOf(file);
+  std::string bytes;
+  for (std::uint64_t at = 0; at < size; at += bytes.size()) {
+    bytes.resize(std::min<std::uint64_t>(kBytesAtOnce, size - at));
+    const int amount = static_cast<int>(bytes.size());
+    if (file->pMethods->xRead(file, bytes.data(), amount, static_cast<sqlite3_int64>(at)) !=
+        SQLITE_OK) {
+      throw RunTimeError(SQLITE_IOERR, "the database file cannot be read");
+    }
+    if (!take(bytes)) return;
+  }
+}
+
+std::uint64_t Connection::FileSize() const { return SizeOf(FileOf(database_.get())); }
+
 void Connection::ExecuteScript(const char* sql) { Run(database_.get(), sql); }
 
 Connection::Statement Connection::Prepare(std::string_view statement) {
   if (observer_) observer_(statement);
+  work_ = 0;
   const std::string sql = ToEngineSql(statement);
   sqlite3_stmt* raw = nullptr;
   const char* rest = nullptr;

@@ -1,6 +1,7 @@
 #ifndef STORE_CONNECTION_H_
 #define STORE_CONNECTION_H_
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -22,12 +23,16 @@ using StatementObserver = std::function<void(std::string_view statement)>;
 // Writing: the first statement that writes begins a group, EndGroup() commits it. Statements of a
 // group are separate: one that fails takes nothing back of those before it. Destroying the
 // connection ends the group.
+//
+// A statement that takes far more work than any of the survey's is stopped and fails, whatever the
+// file holds.
 class Connection {
  public:
   // Opens the database for reading and writing; never creates one. The password is tested by a
   // first read. Throws RunTimeError and leaves the file untouched when it is missing, a folder,
-  // not readable and writable, no survey database (empty, foreign, truncated, unencrypted), or
-  // has another password. `keys` must outlive the call only. The call reads the file beside the
+  // not readable and writable, no survey database (empty, foreign, truncated, unencrypted, holding
+  // what runs by itself), has another password, or lies beside the journal of another file. `keys`
+  // must outlive the call only. The call reads the file beside the
   // engine, which drops every lock that this process holds on it: no other connection to the same
   // file may be in the middle of a group.
   static std::unique_ptr<Connection> Open(const std::string& path, std::string_view password,
@@ -48,6 +53,16 @@ class Connection {
   // When the commit fails the group is taken back as a whole and the failure thrown.
   void EndGroup();
 
+  // Reads every page that is in use once; each bears its checksum. Throws RunTimeError when one is
+  // damaged or the pages do not fit together.
+  void RequireSoundFile();
+
+  // Hands the bytes of the file, encrypted as they lie there, to `take` from the start on, until it
+  // answers false. No program writes meanwhile. Not within a group. Throws what `take` throws, and
+  // RunTimeError.
+  void ReadFile(const std::function<bool(std::string_view bytes)>& take);
+  std::uint64_t FileSize() const;  // in bytes; 0 when it cannot be told
+
   // Engine's own SQL, several statements allowed, not seen by the observer and beginning no group
   // of its own: for the schema and the template, never for a text that holds a user's words.
   void ExecuteScript(const char* sql);
@@ -64,7 +79,7 @@ class Connection {
   };
   using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-  explicit Connection(std::unique_ptr<sqlite3, CloseDatabase> database);
+  explicit Connection(sqlite3* database);  // owns it from now on
 
   Statement Prepare(std::string_view statement);
   bool Step(sqlite3_stmt* statement);  // true while there is a row
@@ -77,6 +92,7 @@ class Connection {
   void RequireSoundPages();
   bool InGroup() const;  // asks the engine, which may have taken the group back by itself
 
+  int work_ = 0;  // of the statement that runs; outlives the engine, which counts in it
   std::unique_ptr<sqlite3, CloseDatabase> database_;
   StatementObserver observer_;
 };

@@ -16,7 +16,7 @@ namespace survey {
 class Recordset {
  public:
   // Runs the query. Throws ObjectNotSet() without a connection, RunTimeError when the statement
-  // fails; the recordset then holds no rows.
+  // fails or gives more than fits into memory; the recordset then holds no rows.
   void Open(std::string_view statement, Connection* connection);
 
   void Close();
@@ -33,6 +33,8 @@ class Recordset {
   const Value& Field(std::string_view name) const;
 
  private:
+  static std::vector<std::vector<Value>> AllRows(Connection& connection, sqlite3_stmt* query);
+
   std::vector<std::string> names_;
   std::vector<std::vector<Value>> rows_;
   std::size_t position_ = 0;

@@ -12,13 +12,17 @@ void Survey::OpenDatabaseConnection() {
   EndStatements();
   DatabaseConnection.reset();
   try {
-    DatabaseConnection = Connection::Open(DatabasePath, DatabasePassword(), keys_);
+    DatabaseConnection = OpenAside();
     DatabaseConnection->set_observer(observer_);
   } catch (const RunTimeError& error) {
     if (report_error_) {
       report_error_("modDatabaseConnection", error.what(), "Database Access Error", error.number());
     }
   }
+}
+
+std::unique_ptr<Connection> Survey::OpenAside() {
+  return Connection::Open(DatabasePath, DatabasePassword(), keys_);
 }
 
 void Survey::CloseDatabaseConnection() { DatabaseConnection.reset(); }

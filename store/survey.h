@@ -33,6 +33,10 @@ class Survey {
   // throws it; else the caller's first query fails, for the connection is none after it.
   void OpenDatabaseConnection();
 
+  // Another connection to DatabasePath, for what the program does besides the survey. Throws
+  // RunTimeError. Not while a statement of DatabaseConnection waits to be committed.
+  std::unique_ptr<Connection> OpenAside();
+
   // Closes DatabaseConnection and sets it to none, without a word whatever happens.
   void CloseDatabaseConnection();
 

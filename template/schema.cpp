@@ -119,22 +119,6 @@ CREATE TABLE tbl_Hostels (
   Physical_Code TEXT COLLATE NOCASE, Telephone TEXT COLLATE NOCASE, Facsimile TEXT COLLATE NOCASE,
   GISLat TEXT COLLATE NOCASE, GISLong TEXT COLLATE NOCASE, physicalcode TEXT COLLATE NOCASE);
 
-CREATE TRIGGER hostel_new AFTER INSERT ON tbl_Hostels BEGIN
-  UPDATE tbl_Hostels SET Physical_Code = coalesce(new.Physical_Code, new.physicalcode),
-                         physicalcode = coalesce(new.Physical_Code, new.physicalcode)
-  WHERE rowid = new.rowid;
-END;
-
-CREATE TRIGGER hostel_code_changed AFTER UPDATE OF Physical_Code ON tbl_Hostels
-WHEN new.Physical_Code IS NOT new.physicalcode COLLATE BINARY BEGIN
-  UPDATE tbl_Hostels SET physicalcode = new.Physical_Code WHERE rowid = new.rowid;
-END;
-
-CREATE TRIGGER hostel_other_code_changed AFTER UPDATE OF physicalcode ON tbl_Hostels
-WHEN new.Physical_Code IS NOT new.physicalcode COLLATE BINARY BEGIN
-  UPDATE tbl_Hostels SET Physical_Code = new.physicalcode WHERE rowid = new.rowid;
-END;
-
 CREATE TABLE tbl_SETAAccreditation (
   CollegeEmisNumber NUMERIC, CampusEmisNumber NUMERIC, SurveyYear NUMERIC, SETAID NUMERIC);
 

@@ -132,11 +132,11 @@ class CsvReader {
 
 std::vector<Record> ReadRecords(const std::filesystem::path& folder, const std::string& file,
                                 const Columns& columns) {
-  std::ifstream stream(folder / file, std::ios::binary);
   std::error_code error;
-  if (!is_regular_file(folder / file, error) || !stream.is_open()) {
-    throw BadList(file + ": the file cannot be read");
-  }
+  std::ifstream stream;
+  // Only then is it opened: a pipe in its place would be waited for without end.
+  if (is_regular_file(folder / file, error)) stream.open(folder / file, std::ios::binary);
+  if (!stream.is_open()) throw BadList(file + ": the file cannot be read");
   const std::string content{std::istreambuf_iterator<char>(stream), {}};
   std::vector<Record> records = CsvReader(file).Read(content);
   if (records.empty() || records.front().fields() != columns) {

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "store/connection.h"
 #include "store/dialect.h"
+#include "store/own_triggers.h"
 #include "store/survey.h"
 #include "template/schema.h"
 
@@ -61,6 +62,7 @@ void Build(const SurveyLists& lists, const std::string& path) {
   const std::unique_ptr<Connection> connection = Connection::Create(path, DatabasePassword());
   connection->ExecuteScript("BEGIN");
   connection->ExecuteScript(kSchema);
+  for (const std::string_view trigger : kOwnTriggers) connection->ExecuteScript(trigger.data());
   InsertLists(*connection, lists);
   connection->EndGroup();
 }
