@@ -15,10 +15,10 @@ namespace {
 // The derivation of file format 3. Every handed-in file was made with it: never change it.
 constexpr int kIterations = 64000;
 constexpr int kKeyBytes = 32;
-constexpr int kBlockBytes = 16;
+constexpr int kHeadBytes = 48;
 constexpr std::size_t kReservedBytes = 48;  // at the end of a page: starting block, checksum
 
-using Block = std::array<unsigned char, kBlockBytes>;
+using Head = std::array<unsigned char, kHeadBytes>;
 
 std::string DerivedKey(std::string_view password, const Salt& salt) {
   std::array<unsigned char, kKeyBytes> key;
@@ -46,46 +46,43 @@ std::array<unsigned char, kKeyBytes> KeyBytes(std::string_view raw_key) {
   return key;
 }
 
-// A block of a page, deciphered with what stands before it in the chain.
-std::optional<Block> Deciphered(std::string_view block, std::string_view before,
-                                std::string_view raw_key) {
+// The head of a file, from behind the salt on. The page ends in the block that starts the chain.
+std::optional<Head> DecipheredHead(std::string_view first_page, std::string_view raw_key) {
   const std::unique_ptr<EVP_CIPHER_CTX, void (*)(EVP_CIPHER_CTX*)> context(EVP_CIPHER_CTX_new(),
                                                                            EVP_CIPHER_CTX_free);
-  const auto bytes = [](std::string_view text) {
-    return reinterpret_cast<const unsigned char*>(text.data());
-  };
-  Block plain{};
+  const auto* bytes = reinterpret_cast<const unsigned char*>(first_page.data());
+  const unsigned char* start = bytes + kDatabasePageBytes - kReservedBytes;
+  Head head{};
   int size = 0;
   if (!context ||
       EVP_DecryptInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, KeyBytes(raw_key).data(),
-                         bytes(before)) != 1 ||
+                         start) != 1 ||
       EVP_CIPHER_CTX_set_padding(context.get(), 0) != 1 ||
-      EVP_DecryptUpdate(context.get(), plain.data(), &size, bytes(block), kBlockBytes) != 1) {
+      EVP_DecryptUpdate(context.get(), head.data(), &size, bytes + kSaltBytes, kHeadBytes) != 1) {
     return std::nullopt;
   }
-  return plain;
+  return head;
 }
 
 }  // namespace
 
-std::optional<std::uint32_t> ChangeCounter(std::string_view first_page, std::string_view raw_key) {
+std::optional<std::uint32_t> SaveCount(std::string_view first_page, std::string_view raw_key) {
   if (first_page.size() != kDatabasePageBytes) return std::nullopt;
-  const auto head =
-      Deciphered(first_page.substr(kSaltBytes, kBlockBytes),
-                 first_page.substr(kDatabasePageBytes - kReservedBytes, kBlockBytes), raw_key);
-  // What every file of the format has before its counter: size of a page, the reserve at its end,
-  // and three fixed figures.
+  const std::optional<Head> head = DecipheredHead(first_page, raw_key);
+  // What every file of the format has: size of a page, the reserve at its end, fixed figures.
   constexpr unsigned char kPageSize[] = {kDatabasePageBytes >> 8, kDatabasePageBytes & 0xff};
   constexpr unsigned char kFixed[] = {kReservedBytes, 64, 32, 32};
-  constexpr int kFixedAt = 4;
-  constexpr int kCounterAt = 8;
-  if (!head || !std::ranges::equal(kPageSize, std::span(*head).first(2)) ||
-      !std::ranges::equal(kFixed, std::span(*head).subspan(kFixedAt, 4))) {
+  constexpr std::size_t kFixedAt = 4;
+  constexpr std::size_t kCountAt = 44;
+  if (!head || !std::ranges::equal(kPageSize, std::span(*head).first(std::size(kPageSize))) ||
+      !std::ranges::equal(kFixed, std::span(*head).subspan(kFixedAt, std::size(kFixed)))) {
     return std::nullopt;
   }
-  std::uint32_t counter = 0;
-  for (int i = 0; i < 4; ++i) counter = counter << 8 | (*head)[kCounterAt + i];
-  return counter;
+  std::uint32_t count = 0;
+  for (const unsigned char byte : std::span(*head).subspan(kCountAt, sizeof count)) {
+    count = count << 8 | byte;
+  }
+  return count;
 }
 
 const std::string& CipherKeys::RawKey(std::string_view password, const Salt& salt) {

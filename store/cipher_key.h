@@ -29,9 +29,11 @@ class CipherKeys {
   std::string raw_key_;
 };
 
-// The counter in the first page of a file, as it lies there, which every commit raises by one.
-// Nothing when this is no whole first page under that key.
-std::optional<std::uint32_t> ChangeCounter(std::string_view first_page, std::string_view raw_key);
+// How many saves a file has seen, from its first page as it lies there. Nothing when this is no
+// whole first page under that key.
+std::optional<std::uint32_t> SaveCount(std::string_view first_page, std::string_view raw_key);
+// Begins anew behind the largest number that a database can hold there.
+inline std::uint32_t NextSaveCount(std::uint32_t count) { return (count + 1) & 0x7fffffff; }
 
 }  // namespace survey
 

@@ -265,10 +265,24 @@ void Connection::Execute(std::string_view statement) {
   }
 }
 
+// In the number that the engine leaves to the program. It tells states of a file from one another:
+// the engine's own counter does not, for it is taken from bytes that are enciphered.
+void Connection::CountSave() {
+  std::uint32_t count = 0;
+  const auto see_count = [](void* number, int, char** fields, char**) {
+    const auto seen = static_cast<std::uint32_t>(LeadingNumber(fields[0]));
+    *static_cast<std::uint32_t*>(number) = NextSaveCount(seen);
+    return 0;
+  };
+  sqlite3_exec(database_.get(), "PRAGMA user_version", see_count, &count, nullptr);
+  Run(database_.get(), ("PRAGMA user_version = " + std::to_string(count)).c_str());
+}
+
 void Connection::EndGroup() {
   if (!InGroup()) return;
   work_ = 0;
   try {
+    if (sqlite3_total_changes(database_.get()) != changes_before_) CountSave();
     Run(database_.get(), "COMMIT");
   } catch (const RunTimeError&) {
     if (InGroup()) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
@@ -332,6 +346,7 @@ Connection::Statement Connection::Prepare(std::string_view statement) {
   if (!sqlite3_stmt_readonly(raw) && !InGroup()) {
     RequireContents();
     Run(database_.get(), "BEGIN IMMEDIATE");
+    changes_before_ = sqlite3_total_changes(database_.get());
   }
   return prepared;
 }

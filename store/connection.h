@@ -90,9 +90,11 @@ class Connection {
   // Throws when a page that the row in front goes on into could not be deciphered: the engine gives
   // zeros for such a page and remembers the failure until the next page is asked for.
   void RequireSoundPages();
+  void CountSave();
   bool InGroup() const;  // asks the engine, which may have taken the group back by itself
 
-  int work_ = 0;  // of the statement that runs; outlives the engine, which counts in it
+  int changes_before_ = 0;  // the group that runs
+  int work_ = 0;            // of the statement that runs; outlives the engine, which counts in it
   std::unique_ptr<sqlite3, CloseDatabase> database_;
   StatementObserver observer_;
 };

@@ -12,7 +12,7 @@ namespace {
 // A journal begins with a mark and numbers of four bytes, the highest first; behind them, from the
 // second sector on, lie pages as they were: number, page, checksum.
 constexpr std::string_view kMark{"\xd9\xd5\x05\xf9\x20\xa1\x63\xd7", 8};
-enum Place { kRecords = 8, kSeed = 12, kPages = 16, kSectorBytes = 20, kPageBytes = 24 };
+enum Place { kSeed = 12, kPages = 16, kSectorBytes = 20, kPageBytes = 24 };
 constexpr std::size_t kHeadBytes = 28;
 constexpr std::size_t kNumberBytes = 4;
 constexpr int kChecksumStep = 200;  // of so many bytes of a page one counts
@@ -49,14 +49,14 @@ std::optional<std::string> FirstPage(std::ifstream& journal, std::string_view he
   return std::nullopt;
 }
 
-// Every commit raises the counter in the first page by one, and two files of different templates
-// begin with different salts.
+// A file of another template begins with another salt; and each save raises a count in the first
+// page by one, which other programs leave as it is.
 bool IsAnotherState(std::string_view before, const JournalPartner& partner) {
   if (before.substr(0, kSaltBytes) != partner.first_page.substr(0, kSaltBytes)) return true;
-  const auto then = ChangeCounter(before, partner.raw_key);
-  const auto now = ChangeCounter(partner.first_page, partner.raw_key);
+  const auto then = SaveCount(before, partner.raw_key);
+  const auto now = SaveCount(partner.first_page, partner.raw_key);
   // A page torn by a power cut tells nothing; the journal is there to mend it.
-  return then && now && *now != *then && *now != *then + 1;
+  return then && now && *now != *then && *now != NextSaveCount(*then);
 }
 
 }  // namespace
@@ -66,10 +66,8 @@ bool IsJournalOfAnother(const std::string& journal, const JournalPartner& partne
   std::string head(kHeadBytes, '\0');
   if (!file.read(head.data(), kHeadBytes) || !head.starts_with(kMark)) return false;
   if (NumberAt(head, kPageBytes) != kDatabasePageBytes) return true;
-  const std::uint32_t pages = NumberAt(head, kPages);
-  // The file only grows while its journal lies there, and not before the records are counted.
-  const bool is_untouched = NumberAt(head, kRecords) == 0;
-  if (partner.pages < pages || (is_untouched && partner.pages != pages)) return true;
+  // As long as its journal lies there a file only grows.
+  if (partner.pages < NumberAt(head, kPages)) return true;
   const std::optional<std::string> before = FirstPage(file, head);
   return before && IsAnotherState(*before, partner);
 }

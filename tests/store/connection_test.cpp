@@ -59,6 +59,41 @@ TEST_F(ConnectionTest, RefusesWhatIsNoFileOfOurs) {
   FailsWith(SQLITE_CANTOPEN, [&] { Connection::Create(path_, "TarquinVOX"); });
 }
 
+// Each line is what a file from elsewhere may hold; some bring the engine down that reads them.
+TEST_F(ConnectionTest, RefusesWhatRunsByItselfAndStopsWhatFindsNoEnd) {
+  const std::string disguised =
+      "pragma writable_schema = 1; insert into sqlite_master values('table','v','v',2,'";
+  for (const std::string& script : std::vector<std::string>{
+           "create view v as select 1",
+           "create virtual table v using fts3(a)",
+           "create trigger v after insert on tbl_StaffDetail begin select 1; end",
+           "analyze; insert into sqlite_stat1 values('tbl_StaffDetail',null,'1 sz=0')",
+           disguised + "CREATE VIEW tbl_x AS SELECT 1')",
+           disguised + "CREATE TABLE v AS SELECT 1')",
+           disguised + "CREATE TABLE [v (] AS SELECT (1)')",
+           disguised + "create table SQLITE_Stat1(tbl,idx,stat)')",
+           disguised +
+               "CREATE TRIGGER hostel_new AFTER INSERT ON tbl_Hostels BEGIN SELECT 1; END')",
+       }) {
+    MakeTemplate(SmallLists(), path_);
+    Open()->ExecuteScript(script.c_str());
+    ExpectRefused(path_, SQLITE_NOTADB, "is not a survey database: it holds");
+  }
+  MakeTemplate(SmallLists(), path_);
+  Open()->ExecuteScript("create table [of (others](a unique); create index i on [of (others](a)");
+  const auto connection = Open();
+  EXPECT_THAT(FailsWith(SQLITE_INTERRUPT,
+                        [&] {
+                          Answer(
+                              "with recursive n(i) as (select 1 union all select i + 1 from n) "
+                              "select count(*) from n",
+                              *connection);
+                        }),
+              HasSubstr("found no end"));
+  FailsWith(SQLITE_TOOBIG, [&] { Answer("hex(zeroblob(1000000))", *connection); });
+  EXPECT_EQ(Answer("select count(*) from lst_province", *connection), "2");
+}
+
 TEST_F(ConnectionTest, RefusesEveryFileThatWasCut) {
   const std::string whole = ReadBytes(path_);
   for (std::size_t length = whole.size() - 1; length > 0; --length) {
@@ -99,23 +134,33 @@ TEST_F(ConnectionTest, NeverReadsAChangedByteAsAnAnswer) {
     return all;
   };
   const std::string truth = contents();
-  int refused = 0, read = 0;
+  int refused = 0, read = 0, unsound = 0;
   for (std::size_t at = 0; at < whole.size(); at += 61) {
     std::string changed = whole;
     changed[at] = static_cast<char>(changed[at] ^ (1 << at % 8));
     WriteBytes(path_, changed);
+    bool is_sound = false;
+    try {
+      Open()->RequireSoundFile();
+      is_sound = true;
+    } catch (const RunTimeError&) {
+      ++unsound;
+    }
     try {
       ASSERT_EQ(contents(), truth) << at;
       ++read;
     } catch (const RunTimeError& error) {
       ASSERT_EQ(error.number(), at < kPageBytes ? SQLITE_NOTADB : SQLITE_CORRUPT) << at;
       ASSERT_THAT(error.what(), AnyOf(HasSubstr("not a survey database"), HasSubstr("damaged")));
+      ASSERT_FALSE(is_sound) << at;
       ++refused;
     }
     ASSERT_TRUE(ReadBytes(path_) == changed) << at;
   }
   EXPECT_GT(refused, 100);
   EXPECT_GT(read, 100);
+  EXPECT_GT(unsound, refused + 100);  // all but the few pages that are not in use
+  EXPECT_GT(unsound, (refused + read) * 9 / 10);
 }
 
 TEST_F(ConnectionTest, RefusesAFileWithoutPermission) {

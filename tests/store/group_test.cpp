@@ -1,3 +1,5 @@
+#define SQLITE_HAS_CODEC 1
+#include <sqlite3.h>
 #include <sys/wait.h>
 
 #include <csignal>
@@ -39,6 +41,16 @@ class GroupTest : public StoreTest {
     return other;
   }
 
+  // Opening these bytes beside the journal that lies there says what to do, and changes nothing.
+  void ExpectNotPlayedInto(const std::string& bytes) {
+    const std::string journal = ReadBytes(path_ + "-journal");
+    const std::string now = ReadBytes(path_);
+    WriteBytes(path_, bytes);
+    EXPECT_THAT(FailsWith(14, [&] { Open(); }), testing::HasSubstr("move that journal out"));
+    EXPECT_TRUE(ReadBytes(path_) == bytes && ReadBytes(path_ + "-journal") == journal);
+    WriteBytes(path_, now);
+  }
+
   static void Kill(pid_t other) {
     kill(other, SIGKILL);
     waitpid(other, nullptr, 0);
@@ -64,9 +76,9 @@ TEST_F(GroupTest, OneCommitEndsAGroupOfStatements) {
 TEST_F(GroupTest, AFailureTakesNothingBackOfWhatWasDoneBefore) {
   const auto connection = Open();
   connection->ExecuteScript(
-      "create trigger unlucky before insert on tbl_StudentEnrolment when new.Quantity = 13 "
+      "create temp trigger unlucky before insert on tbl_StudentEnrolment when new.Quantity = 13 "
       "begin select raise(abort, 'thirteen'); end;"
-      "create trigger worse before insert on tbl_StudentEnrolment when new.Quantity = 14 "
+      "create temp trigger worse before insert on tbl_StudentEnrolment when new.Quantity = 14 "
       "begin select raise(rollback, 'fourteen'); end;");
   Enrol(*connection, 1);
   EXPECT_EQ(FailsWith(19, [&] { Enrol(*connection, 13); }), "thirteen");
@@ -101,6 +113,7 @@ TEST_F(GroupTest, AnotherProgramsLockIsWaitedForAndThenReported) {
 
 TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
   const auto size_before = std::filesystem::file_size(path_);
+  const std::string before = ReadBytes(path_);
   const pid_t other = StartOtherProgram([](Connection& theirs) {
     Enrol(theirs, 1);
     theirs.EndGroup();
@@ -112,6 +125,7 @@ TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
   Kill(other);
   ASSERT_GT(std::filesystem::file_size(path_), size_before * 2);
   ASSERT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
+  ExpectNotPlayedInto(before);  // a copy of an hour ago, put back beside the journal
 
   EXPECT_EQ(AnswerOfFile(kCount), "1");
   EXPECT_EQ(AnswerOfFile("select count(*) from tbl_StaffTraining"), "0");
@@ -125,6 +139,38 @@ TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
   ASSERT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
   EXPECT_EQ(AnswerOfFile(kCount), "1");
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
+}
+
+TEST_F(GroupTest, AJournalIsPlayedIntoNoOtherStateOfItsFile) {
+  // The end of a save is that the journal is removed: whoever is killed right before it leaves it.
+  static std::string journal;
+  sqlite3_vfs* disk = sqlite3_vfs_find(nullptr);
+  const auto remove = disk->xGetSystemCall(disk, "unlink");
+  const auto keep_journal = [](const char* path) {
+    if (std::string_view(path).ends_with("-journal")) journal = ReadBytes(path);
+    return unlink(path);
+  };
+  std::string states[4];
+  for (int i = 0; i < 4; ++i) {
+    if (i == 2) disk->xSetSystemCall(disk, "unlink", sqlite3_syscall_ptr(+keep_journal));
+    const auto connection = Open();
+    Enrol(*connection, i);
+    connection->EndGroup();
+    states[i] = ReadBytes(path_);
+    disk->xSetSystemCall(disk, "unlink", remove);
+  }
+  MakeTemplate(SmallLists(), path_);
+  const std::string foreign = ReadBytes(path_);
+  WriteBytes(path_ + "-journal", journal);
+  for (const std::string& other : {states[0], states[3], foreign, states[1].substr(0, 20 * 1024)}) {
+    ExpectNotPlayedInto(other);
+  }
+  for (const std::string& own : {states[1], states[2]}) {  // not begun, and not removed at the end
+    WriteBytes(path_, own);
+    WriteBytes(path_ + "-journal", journal);
+    EXPECT_EQ(AnswerOfFile(kCount), "2");
+    EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
+  }
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "template/survey_lists.h"
 
+#include <sys/stat.h>
+
 #include "store/store_fixture.h"
 
 namespace survey {
@@ -93,6 +95,9 @@ TEST_F(SurveyListsTest, AListThatIsNoFileIsNamed) {
   std::filesystem::remove(folder_ / "subjects.csv");
   EXPECT_EQ(Fault(), "subjects.csv: the file cannot be read");
   std::filesystem::create_directory(folder_ / "subjects.csv");
+  EXPECT_EQ(Fault(), "subjects.csv: the file cannot be read");
+  std::filesystem::remove(folder_ / "subjects.csv");
+  ASSERT_EQ(mkfifo((folder_ / "subjects.csv").c_str(), 0600), 0);
   EXPECT_EQ(Fault(), "subjects.csv: the file cannot be read");
 }
 
