@@ -81,8 +81,8 @@ TEST_F(Page3, RecordsOfNoRowGoWhereTheOneBeforeWent) {
 TEST_F(Page3, AFailureInTheMiddleIsReportedAndWhatWasDoneStays) {
   Fill(Table(), {{7, 3, "1"}, {7, 4, "2"}, {7, 5, "3"}});
   Save();
-  RunScript(
-      "create trigger refuse before insert on tbl_StudentRegistration "
+  survey.DatabaseConnection->ExecuteScript(
+      "create temp trigger refuse before insert on tbl_StudentRegistration "
       "when new.Quantity = 20 begin select raise(abort, 'refused'); end");
   Type(7, 4, "20");
   Save();

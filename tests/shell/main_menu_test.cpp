@@ -112,9 +112,10 @@ TEST_F(MainMenu, AClaimedSiteIsNotClaimedTwiceAndAFailedClaimIsSilent) {
   EXPECT_EQ(LastBox(),
             "The campus or college that you have selected already exists in the database. Return "
             "to the institution list and select the institution for editing.");
-  RunScript((fresh + "'2011'; create trigger refuse before update on tbl_GeneralInformation begin "
-                     "select raise(abort, 'refused'); end")
-                .c_str());
+  survey.DatabaseConnection->ExecuteScript(
+      (fresh + "'2011'; create temp trigger refuse before update on tbl_GeneralInformation begin "
+               "select raise(abort, 'refused'); end")
+          .c_str());
   Click(kMenu, "cmdContinue");
   EXPECT_THAT(dialogs.seen, IsEmpty());
   EXPECT_TRUE(Picking());

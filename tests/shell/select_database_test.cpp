@@ -1,9 +1,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <ctime>
 #include <fstream>
+#include <set>
 
 #include "platform/program_folder.h"
+#include "shell/data_folder.h"
 #include "shell/register_shell.h"
 #include "world.h"
 
@@ -26,6 +33,36 @@ class SelectDatabase : public World, public ::testing::Test {
   void PutDatabase(const std::string& name) {
     fs::create_directory(Data());
     fs::copy_file(TemplateFile(), Data() / name);
+  }
+  fs::path Copy(const std::string& name) const { return Data() / "Backups" / (name + ".mdb"); }
+  // Names in the folder of copies, without those of today.
+  std::set<std::string> OlderCopies() const {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(Data() / "Backups")) {
+      names.insert(entry.path().stem().string());
+    }
+    names.erase("North " + Today());
+    return names;
+  }
+  static std::string Today() {
+    const std::time_t now = std::time(nullptr);
+    char day[11];
+    std::strftime(day, sizeof day, "%Y-%m-%d", std::localtime(&now));
+    return day;
+  }
+  static std::string Bytes(const fs::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+  static void ExpectOfOwnerAlone(const fs::path& path) {
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  }
+  // Chooses the only database of the list, in a program that has just started.
+  void ChooseNorth() {
+    forms.Unload(forms.Get(kForm));
+    Start("chkExisting");
+    List().Choose(0);
+    Continue();
   }
   // Opens the form and ticks one of its boxes, if any.
   void Start(std::string_view box = "") {
@@ -160,7 +197,129 @@ TEST_F(SelectDatabase, ANewDatabaseIsACopyOfTheTemplate) {
   EXPECT_EQ(survey.DatabaseName, "Zinnia Valley");
   EXPECT_EQ(survey.ChosenDatabaseName, "  Zinnia Valley ");
   EXPECT_EQ(survey.DatabasePath, (Data() / "Zinnia Valley.mdb").string());
-  EXPECT_EQ(fs::file_size(survey.DatabasePath), fs::file_size(TemplateFile()));
+  EXPECT_EQ(Bytes(survey.DatabasePath), Bytes(TemplateFile()));
+  ExpectOfOwnerAlone(survey.DatabasePath);
+}
+
+TEST_F(SelectDatabase, ANewDatabaseTakesNothingOverFromOneThatWasThrownAway) {
+  PutDatabase("North.mdb");
+  const fs::path database = Data() / "North.mdb";
+  const fs::path journal = Data() / "North.mdb-journal";
+  {
+    CipherKeys keys;
+    const auto killed = Connection::Open(database, DatabasePassword(), keys);
+    killed->Execute(
+        "Insert into tbl_StaffTraining(CourseName) with recursive n(i) as (select 1 union all "
+        "select i + 1 from n where i < 5000) select hex(randomblob(500)) from n");
+    fs::copy_file(journal, folder.path() / "left");
+  }
+  fs::remove(database);
+  fs::rename(folder.path() / "left", journal);
+  std::ofstream(Data() / "North.mdb-wal") << "of a program that keeps another kind of journal";
+  Start("chkNew");
+  NameNewDatabase("North");
+  Continue();
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  EXPECT_EQ(Bytes(database), Bytes(TemplateFile()));
+  EXPECT_EQ(std::distance(fs::directory_iterator(Data()), {}), 1);
+}
+
+// The child is killed by the first byte beyond what a file may hold.
+TEST_F(SelectDatabase, AKillInTheCopyLeavesNoDatabaseAndItsNameFree) {
+  DataFolder data(folder.path());
+  data.MakeSure();
+  const pid_t program = fork();
+  if (program == 0) {
+    const rlimit few{20'000, 20'000};
+    setrlimit(RLIMIT_FSIZE, &few);
+    data.CopyTemplate("North");
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(program, &status, 0);
+  ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ);
+  EXPECT_THAT(data.Names(), IsEmpty());
+  ASSERT_EQ(data.Look("North"), Found::kNo);
+  const auto left = *fs::directory_iterator(Data());
+  fs::last_write_time(left.path(), fs::file_time_type::clock::now() - std::chrono::hours(2));
+  data.CopyTemplate("North");
+  EXPECT_EQ(Bytes(Data() / "North.mdb"), Bytes(TemplateFile()));
+  EXPECT_FALSE(fs::exists(left.path()));
+}
+
+TEST_F(SelectDatabase, AChosenDatabaseIsCopiedOnceADayAndTenTimesAtMost) {
+  PutDatabase("North.mdb");
+  const fs::path database = Data() / "North.mdb";
+  const std::string today = "North " + Today();
+  ChooseNorth();
+  EXPECT_EQ(Bytes(Copy(today)), Bytes(database));
+  ExpectOfOwnerAlone(Copy(today));
+  fs::rename(Copy(today), Copy("North 2012-10-31"));
+  ChooseNorth();  // unchanged since
+  EXPECT_FALSE(fs::exists(Copy(today)));
+
+  for (int day = 10; day < 20; ++day) {
+    std::ofstream(Copy("North 2012-10-" + std::to_string(day))) << "older";
+  }
+  for (const char* other : {"North 2012-10-1", "North East 2012-10-10", "North 2012-10-10x"}) {
+    std::ofstream(Copy(other)) << "no copy of this database";
+  }
+  RunScript("update lst_province set Province = 'Changed'");
+  ChooseNorth();
+  RunScript("update lst_province set Province = 'Again'");
+  ChooseNorth();
+  EXPECT_EQ(Bytes(Copy(today)), Bytes(database));
+  EXPECT_THAT(OlderCopies(), ::testing::UnorderedElementsAre(
+                                 "North 2012-10-31", "North 2012-10-19", "North 2012-10-18",
+                                 "North 2012-10-17", "North 2012-10-16", "North 2012-10-15",
+                                 "North 2012-10-14", "North 2012-10-13", "North 2012-10-12",
+                                 "North 2012-10-1", "North East 2012-10-10", "North 2012-10-10x"));
+  EXPECT_THAT(DataFolder(folder.path()).Names(), ElementsAre("North"));
+
+  const auto browse_to = [this](const fs::path& path) {
+    Start();
+    dialogs.file = path.string();
+    Click(kForm, "cmdBrowse");
+    Continue();
+  };
+  fs::create_directory(folder.path() / "Drive");
+  fs::copy_file(database, folder.path() / "Drive" / "North.mdb");
+  browse_to(folder.path() / "Drive" / "North.mdb");
+  EXPECT_EQ(Bytes(Copy("North (Drive) " + Today())), Bytes(database));
+  const auto copies = OlderCopies();
+  browse_to(Copy(today));  // of a copy there is none
+  EXPECT_EQ(OlderCopies(), copies);
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+}
+
+TEST_F(SelectDatabase, ACopyThatFailsIsToldOnceAndStopsNothing) {
+  PutDatabase("North.mdb");
+  std::ofstream(Data() / "Backups") << "in the way";
+  ChooseNorth();
+  ASSERT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_THAT(LastBox(), ::testing::AllOf(HasSubstr("No backup copy of the database could be made"),
+                                          HasSubstr("Not a directory")));
+  EXPECT_EQ(Front(), "frmSelectCollege");
+}
+
+TEST_F(SelectDatabase, DamageAnywhereIsToldWhenTheDatabaseIsChosen) {
+  PutDatabase("North.mdb");
+  const fs::path database = Data() / "North.mdb";
+  {
+    std::fstream file(database, std::ios::binary | std::ios::in | std::ios::out);
+    file.seekp(static_cast<std::streamoff>(fs::file_size(database)) - 600);
+    file.put('x');
+  }
+  ChooseNorth();
+  ASSERT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_THAT(LastBox(), ::testing::AllOf(HasSubstr("The database is damaged"),
+                                          HasSubstr((Data() / "Backups").string())));
+  EXPECT_EQ(Front(), kForm);
+  dialogs.answers = {kAnswerYes};
+  Continue();
+  EXPECT_EQ(Front(), "frmSelectCollege");
+  EXPECT_FALSE(fs::exists(Data() / "Backups"));
 }
 
 TEST_F(SelectDatabase, NamesOfNewDatabasesAreRefusedAndExitEndsTheProgramAtOnce) {
@@ -174,7 +333,8 @@ TEST_F(SelectDatabase, NamesOfNewDatabasesAreRefusedAndExitEndsTheProgramAtOnce)
       return LastBox() + "|" + name.Text;
     };
     EXPECT_EQ(try_name("   "), "Please enter a Database name.|   ");
-    for (const char* taken : {"North", "../outside", "sub/name"}) {
+    const std::string long_for_its_journal(244, 'n');
+    for (const char* taken : {"North", "../outside", "sub/name", long_for_its_journal.c_str()}) {
       EXPECT_EQ(try_name(taken), "This database name already exists. Please supply another name.|");
     }
     form.Find<Button>("cmdCancel").Click();
