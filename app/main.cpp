@@ -13,20 +13,29 @@
 namespace {
 
 // Where the program is installed for all, no user can write beside the executable: the starter
-// names a folder of the user's own in its place.
+// names a folder of the user's own in its place, or says why there is none.
 survey::DesktopPlaces PlacesFrom(const QStringList& arguments) {
   const QCommandLineOption folder("program-folder", "Use the template and the databases in FOLDER.",
                                   "FOLDER");
+  const QCommandLineOption refusal("refusal", "Tell REASON in a window, and end.", "REASON");
   QCommandLineParser parser;
   parser.addHelpOption();
   parser.addOption(folder);
+  parser.addOption(refusal);
   parser.process(arguments);
+  if (parser.isSet(refusal)) throw std::runtime_error(parser.value(refusal).toStdString());
   if (!parser.isSet(folder)) return {};
   const QDir program_folder(parser.value(folder));
   if (!program_folder.exists()) {
     throw std::runtime_error("There is no folder " + parser.value(folder).toStdString());
   }
   return {.program_folder = program_folder.absolutePath().toStdU16String()};
+}
+
+void TellTheEnd(const QString& text) {
+  QMessageBox box(QMessageBox::Critical, survey::kProgramName, text);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
 }
 
 int Run() {
@@ -50,8 +59,7 @@ int main(int argc, char** argv) {
   try {
     return Run();
   } catch (const std::exception& failure) {
-    QMessageBox::critical(nullptr, survey::kProgramName,
-                          QString("The program cannot go on.\n\n%1").arg(failure.what()));
+    TellTheEnd(QString("The program cannot go on.\n\n%1").arg(failure.what()));
     return 1;
   }
 }

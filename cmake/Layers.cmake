@@ -14,6 +14,18 @@ if(SURVEY_SANITIZE)
   target_link_options(survey_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What is handed out reads files from elsewhere: a fault in it shall end the program and do no more.
+if(NOT SURVEY_SANITIZE)
+  include(CheckPIESupported)
+  check_pie_supported()
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  target_compile_options(survey_options INTERFACE -fstack-protector-strong
+    $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+  if(NOT WIN32)
+    target_link_options(survey_options INTERFACE -Wl,-z,relro -Wl,-z,now)
+  endif()
+endif()
+
 function(survey_layer name)
   cmake_parse_arguments(LAYER "QT" "" "SEES;USES" ${ARGN})
   set(include_path ${CMAKE_BINARY_DIR}/layers/${name})

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QStandardPaths>
@@ -31,11 +33,21 @@ QString NameFilter(const std::string& filter) {
   return names.join(";;");
 }
 
+// A name of the survey's may look like markup, or like a letter to underline.
+void ShowAsItIs(QLabel& label) {
+  label.setTextFormat(Qt::PlainText);
+  label.setBuddy(nullptr);
+}
+
 class QtProgress : public Progress {
  public:
   QtProgress(const QString& title, QWidget* parent) : dialog_(parent) {
     dialog_.setObjectName("Progress");
     dialog_.setWindowTitle(title);
+    auto* label = new QLabel;
+    label->setAlignment(Qt::AlignCenter);
+    ShowAsItIs(*label);
+    dialog_.setLabel(label);
     dialog_.setCancelButtonText(QObject::tr("Stop"));
     dialog_.setWindowModality(Qt::ApplicationModal);
     dialog_.setMinimumDuration(kUnnoticed);
@@ -97,7 +109,11 @@ std::string QtDialogs::InputBox(const std::string& prompt, const std::string& ti
   QInputDialog dialog(window_in_front_());
   dialog.setObjectName("InputBox");
   dialog.setWindowTitle(Title(title));
-  dialog.setLabelText(QString::fromStdString(prompt));
+  const QString text = QString::fromStdString(prompt);
+  dialog.setLabelText(text);
+  dialog.sizeHint();  // makes the parts
+  for (QLabel* label : dialog.findChildren<QLabel*>()) ShowAsItIs(*label);
+  for (QLineEdit* line : dialog.findChildren<QLineEdit*>()) line->setAccessibleName(text);
   if (dialog.exec() != QDialog::Accepted) return {};
   return dialog.textValue().toStdString();
 }

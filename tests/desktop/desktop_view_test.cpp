@@ -1,9 +1,11 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "desktop/qt_dialogs.h"
 #include "desktop_fixture.h"
 
 namespace survey::testing {
@@ -102,6 +104,33 @@ TEST_F(DesktopTest, AnUnsavedPageAsksBeforeItIsLeft) {
     user_->Click("cmdMenu");
     EXPECT_EQ(Front(), "frmPage3");
     EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "25");
+  }
+}
+
+TEST_F(DesktopTest, BoxesShowTextsAsTheyAre) {
+  const QString text = "Smith & Jones <b>x</b>  AB && <";
+  QtDialogs dialogs([] { return nullptr; });
+  const auto expect_whole = [&](QWidget& dialog) {
+    int shown = 0;
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+      if (label->text() != text) continue;
+      ++shown;
+      EXPECT_GE(label->sizeHint().width(), label->fontMetrics().horizontalAdvance(text));
+      EXPECT_EQ(label->buddy(), nullptr) << "whose letters would be underlined";
+    }
+    EXPECT_EQ(shown, 1);
+    dialog.close();
+  };
+  user_->OnDialog(expect_whole);
+  MessageBox box;
+  box.prompt = text.toStdString();
+  dialogs.ShowMessage(box);
+  user_->OnDialog(expect_whole);
+  dialogs.InputBox(text.toStdString(), "");
+  const auto progress = dialogs.BeginProgress("");
+  progress->Step(0, 2, text.toStdString());
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == "Progress") expect_whole(*window);
   }
 }
 

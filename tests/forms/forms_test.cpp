@@ -178,6 +178,15 @@ TEST_F(Host, AFailureThatNobodyTrapsIsToldAndEndsTheProgram) {
   EXPECT_THAT(Query("select SETAID as r from tbl_SETAAccreditation"), ElementsAre("1"));
 }
 
+TEST_F(Host, MemoryThatGivesOutAndFaultsOfTheProgramItselfAreToldToo) {
+  Do("A", [](Probe&) { throw std::bad_alloc(); });
+  EXPECT_EQ(LastBox(), "Run-time error '7':\n\nOut of memory");
+  EXPECT_TRUE(forms.Ended());
+  forms.Start("A");
+  Do("A", [](Probe& a) { a.Find<Button>("nowhere"); });
+  EXPECT_EQ(LastBox(), "Run-time error '51':\n\nA has no control nowhere");
+}
+
 TEST_F(Host, BoxesHaveTheirCaptionPictureAndDefault) {
   using Show = std::function<void(MessageBoxes&)>;
   const std::vector<std::tuple<Show, std::string, Picture, int>> cases = {
