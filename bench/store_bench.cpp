@@ -6,6 +6,7 @@
 
 #include "filled_survey.h"
 #include "measure.h"
+#include "shell/chosen_database.h"
 
 namespace survey::bench {
 namespace {
@@ -113,6 +114,29 @@ void AmongSites(benchmark::State& state) {
       [&] { OpenAndSaveAll(alone, kCampusPages); });
 }
 BENCHMARK(AmongSites)->Arg(1)->Arg(30)->Arg(300)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// What is done when a database of so many filled sites is chosen: all its pages read, and compared
+// with the last copy. Against the bare engine that reads each table once.
+void ChooseDatabase(benchmark::State& state) {
+  FilledProgram program(1);
+  testing::AddSites(program.host, static_cast<int>(state.range(0)) - 1);
+  const DataFolder data(program.folder.path());
+  data.MakeSure();
+  const auto choose = [&] { CareForChosenDatabase(program.host, data); };
+  choose();  // makes the copy
+  std::vector<std::string> tables;
+  for (const std::string& table : program.Query("select name as r from sqlite_master where type = "
+                                                "'table' and name not like 'sqlite%'")) {
+    tables.push_back("select count(*) from " + table + " not indexed");
+  }
+  Compare(state, choose, [&] {
+    Bare bare(program.survey.DatabasePath);
+    for (const std::string& table : tables) bare.Run(table);
+  });
+  state.counters["MB"] =
+      static_cast<double>(std::filesystem::file_size(program.survey.DatabasePath)) / 1e6;
+}
+BENCHMARK(ChooseDatabase)->Arg(1)->Arg(300)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 // All pages of a person opened and saved among so many people, against among ten.
 void AmongPeople(benchmark::State& state) {

@@ -21,7 +21,14 @@ files "$root/usr" > "$scratch/before"
 program=$root/usr/bin/corvale-survey
 installed=$root/usr/lib/corvale-survey/$template
 own=$HOME/.local/share/corvale-survey
+refused() { timeout 20 "$@" 2> /dev/null & pid=$!; wait_for 'Corvale Annual Survey'; stop; }
 lay_out() { "$program" -platform offscreen --help > /dev/null; }
+
+refused env -u HOME "$program"
+mkdir -p "$HOME/.local"
+echo "in the way" > "$HOME/.local/share"
+refused "$program"
+rm "$HOME/.local/share"
 
 start "$program"
 make_database 'Harbour Road'
@@ -40,7 +47,8 @@ start "$program"
 open_database
 stop
 
-[ "$(files "$own")" = "$(printf './%s\n./Data2012/Harbour Road.mdb' $template)" ] ||
+[ "$(files "$own")" = "$(printf './%s\n./Data2012/%s\n./Data2012/Harbour Road.mdb' $template \
+  "$(backup 'Harbour Road')")" ] ||
   fail "files in the user's program folder: $(files "$own")"
 files "$root/usr" | diff "$scratch/before" - || fail "the installed program changed"
 [ -z "$(dpkg_there --verify corvale-survey)" ] || fail "installed files changed"

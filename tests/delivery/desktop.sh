@@ -31,6 +31,9 @@ fail() {
 # Files below a folder, one a line, in order.
 files() { (cd "$1" && find . ! -type d | sort); }
 
+# Where the copy of a database lies that was opened today.
+backup() { echo "Backups/$1 $(date +%F).mdb"; }
+
 start() {
   (cd "$scratch/tmp" && exec "$@") &
   pid=$!

@@ -27,7 +27,8 @@ open_database
 stop
 
 files "$folder" | diff "$scratch/before" - > "$scratch/new" || true
-[ "$(cat "$scratch/new")" = "$(printf '1a2\n> ./Data2012/Harbour Road.mdb')" ] ||
+[ "$(cat "$scratch/new")" = "$(printf '1a2,3\n> ./Data2012/%s\n> ./Data2012/Harbour Road.mdb' \
+  "$(backup 'Harbour Road')")" ] ||
   fail "the folder changed: $(cat "$scratch/new")"
 [ "$(files "$HOME" | grep -v '^./.cache/')" = './.config/Corvale/Corvale Annual Survey.ini' ] ||
   fail "files in the user's folder: $(files "$HOME")"

@@ -181,8 +181,8 @@ TEST_F(Host, AFailureThatNobodyTrapsIsToldAndEndsTheProgram) {
 TEST_F(Host, MemoryThatGivesOutAndFaultsOfTheProgramItselfAreToldToo) {
   Do("A", [](Probe&) { throw std::bad_alloc(); });
   EXPECT_EQ(LastBox(), "Run-time error '7':\n\nOut of memory");
-  EXPECT_TRUE(forms.Ended());
-  forms.Start("A");
+  EXPECT_TRUE(host.Ended());
+  host.Start("A");
   Do("A", [](Probe& a) { a.Find<Button>("nowhere"); });
   EXPECT_EQ(LastBox(), "Run-time error '51':\n\nA has no control nowhere");
 }

@@ -59,7 +59,7 @@ class SelectDatabase : public World, public ::testing::Test {
   }
   // Chooses the only database of the list, in a program that has just started.
   void ChooseNorth() {
-    forms.Unload(forms.Get(kForm));
+    host.Unload(host.Get(kForm));
     Start("chkExisting");
     List().Choose(0);
     Continue();

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Lays the program out as ./run does, and looks at what was built: no library is looked for in the
+# current folder, and a fault cannot easily be turned to use.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+cmake --install build/release --component in_place --prefix "$folder" > /dev/null
+program=$folder/corvale-survey
+[ -f "$folder/CorvaleAnnualOstrel2012.mdb" ]
+
+fail() {
+  echo "$*" >&2
+  exit 1
+}
+dynamic=$(readelf -dW "$program")
+for file in "$program" build/release/app/corvale-survey; do
+  [ -z "$(readelf -dW "$file" | grep -E 'R(UN)?PATH.*(\[:|::|:\]|\[\])')" ] ||
+    fail "an empty entry in the search path of $file"
+done
+grep -q 'BIND_NOW' <<< "$dynamic" || fail "bound while it runs"
+grep -q 'GNU_RELRO' <<< "$(readelf -lW "$program")" || fail "its tables stay writable"
+grep -q 'Type: *DYN' <<< "$(readelf -hW "$program")" || fail "always at the same place in memory"
+symbols=$(readelf --dyn-syms -W "$program")
+grep -q '__stack_chk_fail' <<< "$symbols" || fail "no guard on the stack"
+grep -qE '__[a-z]+_chk@' <<< "$symbols" || fail "no checked calls"
