@@ -110,9 +110,9 @@ std::string QtDialogs::InputBox(const std::string& prompt, const std::string& ti
   dialog.setObjectName("InputBox");
   dialog.setWindowTitle(Title(title));
   const QString text = QString::fromStdString(prompt);
-  dialog.setLabelText(text);
   dialog.sizeHint();  // makes the parts
   for (QLabel* label : dialog.findChildren<QLabel*>()) ShowAsItIs(*label);
+  dialog.setLabelText(text);  // not before: a label once told of a letter to underline goes on so
   for (QLineEdit* line : dialog.findChildren<QLineEdit*>()) line->setAccessibleName(text);
   if (dialog.exec() != QDialog::Accepted) return {};
   return dialog.textValue().toStdString();
