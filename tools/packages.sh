@@ -4,8 +4,9 @@
 build_packages="g++ cmake ninja-build pkg-config libsqlcipher-dev libssl-dev libicu-dev libcsv-dev \
 librsvg2-bin qt6-base-dev fonts-dejavu-core fonts-liberation"
 package_packages="dpkg-dev file"
-test_packages="libgtest-dev libgmock-dev clang-format poppler-utils $package_packages xvfb xdotool \
-fakeroot desktop-file-utils"
+bench_packages="libbenchmark-dev"
+test_packages="$bench_packages libgtest-dev libgmock-dev clang-format poppler-utils \
+$package_packages xvfb xdotool fakeroot desktop-file-utils"
 
 install_missing() {
   local missing=() package

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <filesystem>
@@ -15,11 +16,12 @@
 #include <iterator>
 
 #include "desktop_driver.h"
-#include "filled_survey.h"
 #include "form_inspector.h"
+#include "offscreen.h"
 #include "pages/survey_pages.h"
 #include "platform/program_folder.h"
 #include "shell/register_shell.h"
+#include "support/page_filler.h"
 
 namespace survey {
 namespace {
@@ -338,7 +340,8 @@ void Tour::PrintSurvey() {
   for (const testing::FilledPage& page : filled) {
     testing::ReadAgain(desktop_.host(), page, desktop_.host().PageOf(page.page).paper.grids);
   }
-  PrintTo("22-survey", "cmdPrintSurvey", 16);
+  const auto sheets = std::ranges::count(desktop_.host().pages(), true, &PageRow::in_campus_print);
+  PrintTo("22-survey", "cmdPrintSurvey", static_cast<int>(sheets));
 }
 
 void Tour::Close() {
@@ -388,7 +391,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    survey::UseOffscreenPlatform();
   }
   const QApplication application(argc, argv);
   survey::SetUpApplication();

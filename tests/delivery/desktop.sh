@@ -5,7 +5,10 @@ template=CorvaleAnnualOstrel2012.mdb
 scratch=$(mktemp -d)
 export HOME="$scratch/home" XDG_RUNTIME_DIR="$scratch/runtime" TMPDIR="$scratch/tmp"
 mkdir -m 700 "$HOME" "$XDG_RUNTIME_DIR" "$TMPDIR"
-unset XDG_DATA_HOME XDG_CONFIG_HOME QT_QPA_PLATFORM QT_PLUGIN_PATH LD_LIBRARY_PATH WAYLAND_DISPLAY
+# Nothing of the desktop that the tests are started from, nor a session bus: where none runs, some
+# machines would start one, and leave its folder in the user's.
+unset "${!XDG_DATA@}" "${!XDG_CONFIG@}" "${!XDG_CURRENT@}" "${!QT_@}" LD_LIBRARY_PATH WAYLAND_DISPLAY
+export DBUS_SESSION_BUS_ADDRESS=disabled:
 pid=
 screen=
 

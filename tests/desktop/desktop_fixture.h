@@ -13,7 +13,7 @@
 #include "pages/survey_pages.h"
 #include "platform/program_folder.h"
 #include "shell/register_shell.h"
-#include "world.h"
+#include "support/headless_program.h"
 
 namespace survey::testing {
 

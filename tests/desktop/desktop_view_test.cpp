@@ -1,9 +1,4 @@
-#include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QScrollBar>
 
 #include "desktop/qt_dialogs.h"
 #include "desktop_fixture.h"
@@ -13,27 +8,6 @@ namespace {
 
 constexpr char kUnsaved[] =
     "You have NOT saved your data. Are you sure you want to exit without saving?";
-
-TEST_F(DesktopTest, TheFirstFormAnswersAndEndsByItsCloseBox) {
-  desktop_->host().Start("frmSelectDatabase");
-  EXPECT_EQ(desktop_->view().window().windowTitle(), "Corvale Annual Survey 2012 (Ostrel)");
-  ExpectBox("User Message", "You have no existing databases on this computer.");
-  user_->Click("chkExisting");
-  EXPECT_FALSE(user_->The<QCheckBox>("chkExisting").isChecked());
-
-  user_->Click("chkNew");
-  EXPECT_FALSE(user_->Find("lstFiles").isEnabled());
-  EXPECT_EQ(ColorOf("cmdContinue"), QColor(Qt::yellow));
-  EXPECT_EQ(user_->Find("cmdContinue").palette().color(QPalette::ButtonText), QColor(Qt::black));
-  EXPECT_EQ(&user_->Focus(), &user_->Find("cmdContinue"));
-  user_->Click("chNetwork");
-  EXPECT_FALSE(user_->The<QCheckBox>("chkNew").isChecked());
-  user_->Click("chNetwork");
-  EXPECT_NE(ColorOf("cmdContinue"), QColor(Qt::yellow));
-  desktop_->view().window().close();
-  EXPECT_TRUE(ended_);
-  EXPECT_FALSE(desktop_->view().window().isVisible());
-}
 
 TEST_F(DesktopTest, ANewDatabaseIsNamedInADialogOfItsOwn) {
   desktop_->host().Start("frmSelectDatabase");
@@ -52,39 +26,6 @@ TEST_F(DesktopTest, ANewDatabaseIsNamedInADialogOfItsOwn) {
   user_->Press(Qt::Key_Return);
   EXPECT_EQ(Front(), "frmSelectCollege");
   EXPECT_TRUE(std::filesystem::exists(folder_.path() / "Data2012" / "Free.mdb"));
-}
-
-TEST_F(DesktopTest, ADialogLeftByItsCloseBoxMakesNoDatabase) {
-  desktop_->host().Start("frmSelectDatabase");
-  user_->Click("chkNew");
-  user_->OnDialog([](QWidget& dialog) { dialog.close(); });
-  ExpectBox("User Message", "Please select a database to continue.");
-  user_->Click("cmdContinue");
-  EXPECT_TRUE(ended_);
-}
-
-TEST_F(DesktopTest, ASiteIsChosenByProvinceCollegeAndCampus) {
-  OpenSiteAt("frmSelectCollege");
-  EXPECT_EQ(ColorOf("cmdAdd"), QColor(Qt::yellow));
-  user_->Click("cmdAdd");
-  EXPECT_TRUE(user_->Find("cboProvince").isVisible());
-  EXPECT_FALSE(user_->Find("cmdGeneral").isVisible()) << "its frame is hidden";
-  user_->Click("optCampus");
-  user_->Usable("cboProvince").setFocus();
-  user_->Press(Qt::Key_Down);
-  EXPECT_GT(user_->The<QComboBox>("cboCollege").count(), 0) << "colleges follow at once";
-  user_->Choose("cboProvince", "Western Cape");
-  EXPECT_EQ(user_->The<QComboBox>("cboCollege").currentIndex(), -1);
-  user_->Choose("cboCollege", "Blouklip FET College");
-  user_->Choose("cboCampus", "Duinekop Campus");
-  EXPECT_EQ(user_->The<QLineEdit>("txtCamEmis").text(), "108107587");
-  EXPECT_TRUE(user_->The<QLineEdit>("txtCamEmis").isReadOnly());
-
-  user_->Usable("cmdContinue").setFocus();
-  user_->Press(Qt::Key_Return);
-  EXPECT_FALSE(user_->Find("cboProvince").isVisible());
-  EXPECT_TRUE(user_->Find("cmdLearner(7)").isVisible());
-  EXPECT_EQ(&user_->Focus(), &user_->Find("cmdGeneral")) << "where the menu begins";
 }
 
 TEST_F(DesktopTest, AnUnsavedPageAsksBeforeItIsLeft) {
@@ -155,18 +96,6 @@ TEST_F(DesktopTest, SavingAndLeavingTakeWhatIsStillBeingTyped) {
   user_->Press(Qt::Key_Return);
   desktop_->view().window().close();  // asks nothing
   EXPECT_TRUE(ended_);
-}
-
-TEST_F(DesktopTest, AboutShowsTheWholeDisclaimerAndClosesByEsc) {
-  OpenSiteAt("frmMainMenu");
-  user_->OnDialog([this](QWidget& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "About Corvale Annual Survey");
-    EXPECT_EQ(dialog.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
-    user_->Press(Qt::Key_Escape);
-  });
-  user_->Click("cmdDisclaimer");
-  EXPECT_EQ(Front(), "frmMainMenu");
-  EXPECT_FALSE(ended_);
 }
 
 }  // namespace

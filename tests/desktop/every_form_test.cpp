@@ -6,8 +6,8 @@
 
 #include "desktop/colors.h"
 #include "desktop_fixture.h"
-#include "filled_survey.h"
 #include "form_inspector.h"
+#include "support/page_filler.h"
 
 namespace survey::testing {
 namespace {

@@ -14,7 +14,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include "world.h"
+#include "support/headless_program.h"
 
 namespace survey::testing {
 namespace {
@@ -162,7 +162,7 @@ class GridViewTest : public ::testing::Test, public FormsView {
   Cell Active() { return {table().ActiveColumn(), table().ActiveRow()}; }
   Cell Current() { return {view_->currentIndex().column() + 1, view_->currentIndex().row() + 1}; }
 
-  World world_;
+  HeadlessProgram world_;
   QWidget window_;
   GridView* view_ = nullptr;
   GridView* list_ = nullptr;
@@ -250,15 +250,6 @@ TEST_F(GridViewTest, ARefusedEntryStaysOpenUntilTheUserClicksElsewhere) {
   EXPECT_THAT(form().heard, ElementsAre("change 3,3", "click 4,3"));
 }
 
-TEST_F(GridViewTest, CommitsWhenTheUserWorksElsewhere) {
-  Keys("5");
-  ClickAt(*view_, 3, 5);
-  EXPECT_EQ(At(3, 3), "5");
-  Keys("6");
-  list_->setFocus(Qt::MouseFocusReason);
-  EXPECT_EQ(At(3, 5), "6");
-}
-
 TEST_F(GridViewTest, PastesABlockThroughTheLimits) {
   table().SetText(4, 4, "8");
   table().SetText(3, 5, "55");
@@ -277,13 +268,14 @@ TEST_F(GridViewTest, PastesWhatFitsAndSaysWhatDoesNot) {
   table().SetRowHidden(19, true);
   Go(6, 18);
   Paste("1\t\n1\t5\tz\n0\n");  // row 19 is passed over, the total and column 8 take nothing
-  EXPECT_EQ(At(6, 18) + At(6, 19) + At(6, 20), "11");
+  EXPECT_EQ(At(6, 18) + "/" + At(6, 19) + "/" + At(6, 20), "1//1");
   EXPECT_THAT(Note(), AllOf(HasSubstr("2 values did not fit into the table."), HasSubstr("total")));
   Go(6, 3);
   Paste("\"two\nlines\"");
   EXPECT_THAT(Note(), HasSubstr("one line"));
   Paste("\"\"\"a\"\"\"");
-  EXPECT_EQ(At(6, 3) + Note(), "\"A\"");
+  EXPECT_EQ(At(6, 3), "\"A\"");
+  EXPECT_EQ(Note(), "");
   Paste("\"a\"05\t7\n");  // begins with a quote, and is not in quotes
   EXPECT_EQ(At(6, 3), "\"A\"05") << "and the 0 stays";
   EXPECT_THAT(Note(), HasSubstr("\"7\""));
@@ -296,7 +288,7 @@ TEST_F(GridViewTest, CopiesCutsAndFillsASelection) {
   Key(Qt::Key_Right, Qt::ShiftModifier);
   Key(Qt::Key_X, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), "1\t\n\t8");
-  EXPECT_EQ(At(3, 3) + At(4, 4), "8");
+  EXPECT_EQ(At(3, 3) + "/" + At(4, 4), "/8");
   Paste("5\n");
   EXPECT_THAT(Row(3), ElementsAre("5", "5", "", "", "10"));
   EXPECT_EQ(At(4, 4), "8");
@@ -308,7 +300,7 @@ TEST_F(GridViewTest, TicksBoxes) {
   view_->scrollTo(view_->model()->index(12, 5));
   ClickAt(*view_, 6, 13);
   ClickAt(*view_, 6, 13);
-  EXPECT_EQ(At(6, 12) + At(6, 13), "10");
+  EXPECT_EQ(At(6, 12) + "/" + At(6, 13), "1/0");
   QTest::mouseClick(view_->viewport(), Qt::LeftButton, {},
                     Place(*view_, 6, 13).topLeft() + QPoint(3, 3));  // beside the box
   EXPECT_THAT(form().heard, ElementsAre("check 6,12", "click 6,13", "check 6,13", "click 6,13",

@@ -3,10 +3,11 @@
 #include <QApplication>
 
 #include "desktop/desktop.h"
+#include "offscreen.h"
 
 int main(int argc, char** argv) {
   // No window of a test comes to a user's screen.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  survey::UseOffscreenPlatform();
   ::testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
   survey::SetUpApplication();

@@ -12,7 +12,7 @@
 #include "base/run_time_error.h"
 #include "desktop_driver.h"
 #include "grid/grid.h"
-#include "world.h"
+#include "support/headless_program.h"
 
 namespace survey::testing {
 namespace {

@@ -1,13 +1,15 @@
-// What users read when a page cannot be filled, saved or printed: names that have always stood in
-// the box, and are often another page's.
+// What users read when a page cannot be filled, saved or printed, and what is left of their work.
 
-#include "filled_site.h"
+#include "faults/file_faults.h"
+#include "support/filled_site.h"
 #include "support/page_test.h"
 
 namespace survey::testing {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 struct Told {
@@ -76,6 +78,9 @@ void ExpectTold(FilledSite& site, const Told& told) {
 }
 
 TEST(FailureReportTest, BearsTheNamesUsersKnow) {
+  std::vector<std::string> names;
+  for (const FailuresOf& page : kPages) names.emplace_back(page.page);
+  EXPECT_EQ(names, PageNames());
   for (const auto& [page, filled, saved, printed, marked] : kPages) {
     SCOPED_TRACE(page);
     auto site = std::make_unique<FilledSite>();
@@ -102,6 +107,62 @@ TEST(FailureReportTest, BearsTheNamesUsersKnow) {
     lose_database();
     site->Open(page);
     ExpectTold(*site, filled);
+  }
+}
+
+// The figures stay on the page and can be printed, and what was saved before stays in the file,
+// which is not touched. When it is over the page saves as ever.
+void MeetFault(const FileFault& fault, const FailuresOf& failures) {
+  const std::string page = failures.page;
+  SCOPED_TRACE(page + ", " + fault.name);
+  FilledSite site;
+  const std::filesystem::path file = site.survey.DatabasePath;
+  const auto size = [&] { return exists(file) ? file_size(file) : 0; };
+  Form& form = site.Open(page);
+  const auto before = AllRows(file);
+  site.Fill(form, 7);
+  const std::string typed = TextsOf(form);
+  fault.begin(file);
+  const auto size_before = size();
+  site.Click(page, "cmdSave");
+  const bool ended = failures.saved.location == kEndsTheProgram.location;
+  EXPECT_EQ(site.host.Ended(), ended);
+  if (failures.saved.location != nullptr) {
+    EXPECT_THAT(site.dialogs.seen.at(0).prompt, HasSubstr(fault.told_when_saving));
+  }
+  if (!ended) {
+    EXPECT_EQ(TextsOf(form), typed);
+    site.dialogs.seen.clear();
+    site.Click(page, "cmdPrintPage");
+    EXPECT_EQ(site.LastBox() + site.printer.operations.back(), "EndDoc");
+  }
+  EXPECT_EQ(size(), size_before);
+  fault.end(file);
+  EXPECT_EQ(AllRows(file), before);
+  if (ended) return;
+  if (fault.told_when_opening != nullptr) site.survey.OpenDatabaseConnection();
+  site.dialogs.seen.clear();
+  site.Click(page, "cmdSave");
+  EXPECT_EQ(site.LastBox(), "");
+  const auto after = AllRows(file);
+  EXPECT_NE(after, before);
+
+  if (fault.told_when_opening == nullptr) return;
+  fault.begin(file);
+  site.Open(page);
+  EXPECT_THAT(site.dialogs.seen.at(0).prompt,
+              AllOf(HasSubstr(fault.told_when_opening),
+                    ToldBy("modDatabaseConnection", "Database Access Error")));
+  fault.end(file);
+  EXPECT_EQ(AllRows(file), after);
+}
+
+// Every page meets a fault here and every fault some pages.
+TEST(FailureReportTest, AFaultOfTheFileIsToldAndLosesNothing) {
+  for (std::size_t i = 0; i < FileFaults().size(); ++i) {
+    for (std::size_t page = i; page < std::size(kPages); page += 6) {
+      MeetFault(FileFaults()[i], kPages[page]);
+    }
   }
 }
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/form_host.h"
-#include "world.h"
+#include "support/headless_program.h"
 
 namespace survey::testing {
 namespace {
@@ -47,7 +47,7 @@ class Probe : public Form {
   void Form_Unload() override { events.push_back(name() + " unload"); }
 };
 
-class Host : public World, public ::testing::Test {
+class Host : public HeadlessProgram, public ::testing::Test {
  protected:
   Host() {
     for (const char* name : {"A", "B", "M"}) {
@@ -118,20 +118,6 @@ TEST_F(Host, CodeThatChangesAChoiceRaisesItsClick) {
   EXPECT_THAT(events, ElementsAre("A check", "A one", "A two", "A combo item"));
   EXPECT_FALSE(a.opt1.Value());
   EXPECT_EQ(a.cbo.ListIndex(), -1);
-}
-
-TEST_F(Host, HiddenAndDisabledControlsTakeNothingFromTheUser) {
-  Probe& a = P("A");
-  a.chk.Enabled = false;
-  a.chk.Click();
-  a.txt.Locked = true;
-  a.txt.Enter("x");
-  EXPECT_FALSE(a.chk.Value());
-  EXPECT_EQ(a.txt.Text, "");
-  a.txt.Locked = false;
-  a.txt.takes_key = [](char32_t key) { return key >= '0' && key <= '9'; };
-  a.txt.Enter("1é2 3");
-  EXPECT_EQ(a.txt.Text, "123");
 }
 
 // Whoever has the grid alone in hand still works on the form.

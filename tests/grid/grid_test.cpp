@@ -119,21 +119,5 @@ TEST(GridTest, RowsComeEmptyUnderTheRulesAndGoFromTheEnd) {
   EXPECT_EQ(grid.GetText(5, 4), "1") << "a total that came with its row";
 }
 
-TEST(GridTest, ResetGoesBackToTheDesignAndKeepsWhoListens) {
-  Grid grid(kForm);
-  const auto heard = Listen(grid);
-  grid.SetText(1, 1, "");
-  grid.SetText(2, 1, "8");
-  grid.SetLock(2, 2, true);
-  grid.SetBackColor(2, 2, kRed);
-  grid.SetMaxRows(9);
-  grid.ReturnToDesign();
-  EXPECT_EQ(grid.GetText(1, 1) + grid.GetText(5, 4), "1.1");
-  EXPECT_EQ(grid.BackColor(2, 2), kWhite);
-  EXPECT_EQ(grid.MaxRows(), 4);
-  EXPECT_TRUE(grid.Type(2, 2, "1").taken);
-  EXPECT_EQ(*heard, std::vector<std::string>{"change 2,2"});
-}
-
 }  // namespace
 }  // namespace survey

@@ -21,27 +21,6 @@ GridDesign Totalled(CellKind kind) {
 
 const GridDesign kCounts = Totalled(Number(0, 99));
 
-TEST(TotalTest, FollowsWhatItAddsThroughOtherTotals) {
-  Grid grid(kCounts);
-  EXPECT_EQ(grid.GetText(5, 5), "") << "empty while all it adds is empty";
-  grid.Type(3, 3, "0");
-  EXPECT_EQ(grid.GetText(5, 5), "0");
-  EXPECT_EQ(grid.GetText(5, 2), "") << "another row";
-  for (int row = 2; row <= 4; ++row) {
-    for (int column = 2; column <= 4; ++column) grid.SetText(column, row, column * 10.0 + row);
-  }
-  EXPECT_EQ(grid.GetText(5, 2), "96");
-  EXPECT_EQ(grid.GetText(4, 5), "129") << "may be more than its own limit";
-  EXPECT_EQ(grid.GetInteger(5, 5), 297);
-  grid.Type(4, 4, "");
-  EXPECT_EQ(grid.GetText(5, 5), "253");
-  grid.SetText(5, 2, "1000");
-  grid.ClearRange(5, 2, 9, 9);
-  EXPECT_EQ(grid.GetText(5, 2), "96") << "clearing a block leaves its formulas";
-  grid.ClearRange(-1, 2, 9, 9);
-  EXPECT_EQ(grid.GetText(5, 5), "");
-}
-
 TEST(TotalTest, ATextOverATotalShowsUntilOneOfItsCellsIsWritten) {
   Grid grid(kCounts);
   grid.SetText(2, 2, "1");

@@ -180,7 +180,7 @@ TEST_F(EducatorData, BackAsksItsOwnQuestionAndNextAsksNothing) {
   EXPECT_TRUE(Unsaved());
   Click("cmdNext");
   EXPECT_TRUE(dialogs.seen.empty());
-  EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), "frmLecQualifications18001");
+  EXPECT_EQ(Front() + " " + host.Front()->Property("EducatorId"), "frmLecQualifications1 8001");
 }
 
 }  // namespace

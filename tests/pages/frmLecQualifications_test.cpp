@@ -33,7 +33,7 @@ TEST_F(LecQualifications, EveryTypeIsStoredUnderTheCodeBeforeItAndFoundAgain) {
     for (int row = 1; row <= table.MaxRows(); ++row) {
       if (table.Tick(3, row).taken) ticked.push_back(table.GetText(1, row));
     }
-    World::Click(page, "cmdSave");
+    HeadlessProgram::Click(page, "cmdSave");
     Open(page);
     for (int row = 1; row <= table.MaxRows(); ++row) {
       const bool found = table.GetText(3, row) == "1";
@@ -63,7 +63,7 @@ TEST_F(LecQualifications, TheTradeGoesWithEachTickAndIsLostWithoutOne) {
   GridControl& table = Open(kSecond);
   Fill(table, {{2, 19, "Fitter's"}, {3, 20, "2"}});
   for (const int row : {16, 3}) table.Tick(3, row);
-  World::Click(kSecond, "cmdSave");
+  HeadlessProgram::Click(kSecond, "cmdSave");
   EXPECT_THAT(statements,
               ElementsAre("Delete from  tbl_StaffQualificationType where IDnumber = '8001' and "
                           "qualificationtypeCD > 29 and surveyyear = 2012",
@@ -71,27 +71,20 @@ TEST_F(LecQualifications, TheTradeGoesWithEachTickAndIsLostWithoutOne) {
                           kInsert + "101,202,2012,'8001',42,'Fitter''s','',2)"));
   Open(kSecond);
   for (const int row : {16, 3}) table.Tick(3, row);
-  World::Click(kSecond, "cmdSave");
+  HeadlessProgram::Click(kSecond, "cmdSave");
   Open(kSecond);
   EXPECT_EQ(Shown(table, {{2, 19}, {3, 20}}), "|");
 }
 
-TEST_F(LecQualifications, TheHalvesLeadToEachOtherAndToTheList) {
-  Open(kFirst).Tick(3, 3);
-  Click("cmdNext");
+TEST_F(LecQualifications, TheHalvesLeadToEachOther) {
+  Open(kSecond).Type(2, 19, "typed");  // not known as a change
+  HeadlessProgram::Click(kSecond, "cmdNext");
   EXPECT_EQ(Front(), kFirst);
+  Open(kFirst).Tick(3, 3);
   dialogs.answers = {kAnswerYes};
   Click("cmdNext");
-  EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), std::string(kSecond) + "8001");
-  The<GridControl>(kSecond, "gridQual").Type(2, 19, "typed");  // not known as a change
-  World::Click(kSecond, "cmdPrintPage");
-  EXPECT_EQ(printer.operations.at(4), "Print \" Staff Details:  8001\"");
-  World::Click(kSecond, "cmdNext");
-  EXPECT_EQ(Front(), kFirst);
-  host.Start(kSecond);
-  World::Click(kSecond, "cmdEducatorList");
-  EXPECT_EQ(Front(), "frmSelectEducator");
-  EXPECT_EQ(dialogs.seen.size(), 2u);
+  EXPECT_EQ(Front(), kSecond);
+  EXPECT_EQ(dialogs.seen.size(), 1u);
 }
 
 }  // namespace

@@ -81,15 +81,5 @@ TEST_F(OtherProgrammes, WithoutProgrammesTheAnswerIsForgotten) {
   EXPECT_EQ(Answer(), "2");
 }
 
-TEST_F(OtherProgrammes, AFailedSaveKeepsTheMarkAndWhatWasDone) {
-  RunScript("drop table tbl_StudentPopulationGroupNSC");
-  Fill(Table(), {{2, 4, "P"}, {4, 4, "I"}});
-  Save();
-  EXPECT_TRUE(Unsaved());
-  EXPECT_THAT(Query("select ProgrammeName as r from tbl_Level5Programmes"), ElementsAre("P"));
-  Reopen();
-  EXPECT_EQ(At(2, 4) + The<TextBox>(kPage, "txtL5").Text, "P");  // nothing behind the failure
-}
-
 }  // namespace
 }  // namespace survey::testing

@@ -132,7 +132,7 @@ TEST_F(Page12_1, ALineIsRemovedByItsNumberWhateverThatIs) {
   Take(300);  // into the gap
   Type(8, 23, "5");
   for (const char* number : {"21", "99", "0"}) remove(number);
-  EXPECT_EQ(At(3, 3) + Line(23) + Line(2), "300||||||||||");
+  EXPECT_EQ(At(3, 3) + " / " + Line(23) + " / " + Line(2), "300 / ||||| / |||||");
   EXPECT_THAT(dialogs.seen, IsEmpty());
   remove("abc");
   EXPECT_THAT(LastBox(), ToldBy(kPage, "cmdRemove"));

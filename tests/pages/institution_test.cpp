@@ -236,7 +236,7 @@ TEST_F(Hostels, ANameIsCompulsoryAndAChangedOneIsAnotherHostel) {
   List().Click(1, 2);
   dialogs.answers = {kAnswerYes};
   Click("cmdDelete");
-  EXPECT_EQ(Listed() + At(4, 2), "Rose|C|D|E|FProtea");
+  EXPECT_EQ(Listed() + " / " + At(4, 2), "Rose|C|D|E|F / Protea");
 }
 
 TEST_F(Hostels, ANameReachesTheHostelsOfOtherSitesToo) {
@@ -263,42 +263,6 @@ TEST_F(Hostels, AQuoteInATownEndsTheProgram) {
   Click("cmdSaveHostel");
   EXPECT_THAT(LastBox(), ::testing::HasSubstr("Run-time error '1'"));
   EXPECT_TRUE(host.Ended());
-}
-
-// ---- frmPage4 ---------------------------------------------------------------------------------
-
-const std::string kStaff =
-    "Insert into tbl_StaffCount(CollegeEmisNumber,CampusEmisnumber,StaffcategoryCD,GenderCD,"
-    "RemunerationCD,DurationCD,AppointmentnatureCD,surveyyear,quantity)VALUES";
-const std::string kDegree =
-    "Insert into tbl_LectureStaff(CollegeEmisNumber,CampusEmisnumber,RemunerationCD,GenderCD,"
-    "DegreetypeCD,SurveyYear,Quantity)VALUES";
-
-class Page4 : public PageTest {
- protected:
-  Page4() : PageTest("frmPage4", "gridPage4_2") {}
-  GridControl& Degrees() { return The<GridControl>("frmPage4", "gridLectureStaff"); }
-};
-
-TEST_F(Page4, SavesTableByTableEachInItsOwnOrderAndUnderItsCodes) {
-  ExpectOpen({{4, 4, 11, 9}});
-  EXPECT_FALSE(Type(4, 4, "10000") || Type(4, 4, "99.5"));
-  Fill(Degrees(), {{3, 4, "2"}, {5, 6, "0"}, {6, 3, "31"}});
-  EXPECT_TRUE(Unsaved());
-  Fill(Table(), {{4, 9, "9999"}, {11, 4, "411"}, {6, 4, "406"}, {9, 7, "709"}});
-  statements.clear();
-  Save();
-  EXPECT_THAT(
-      statements,
-      ElementsAre("Delete * from tbl_StaffCount" + kOfSite, kStaff + "(101,202,1,1,1,2,1,2012,406)",
-                  kStaff + "(101,202,1,1,2,2,2,2012,411)", kStaff + "(101,202,2,2,2,1,2,2012,709)",
-                  kStaff + "(101,202,3,2,1,1,1,2012,9999)",
-                  "Delete * from tbl_LectureStaff" + kOfSite, kDegree + "(101,202,1,1,2,2012,2)",
-                  kDegree + "(101,202,2,1,4,2012,0)", kDegree + "(101,202,2,2,1,2012,31)"));
-  Type(9, 7, "1");  // lost on the way to the staff pages, without a question
-  Click("cmdStaff");
-  EXPECT_EQ(Front(), "frmSelectEducator");
-  EXPECT_THAT(dialogs.seen, IsEmpty());
 }
 
 }  // namespace

@@ -2,10 +2,9 @@
 
 #include <numeric>
 
-#include "filled_survey.h"
 #include "pages/survey_pages.h"
 #include "printing/page_print.h"
-#include "world.h"
+#include "support/headless_program.h"
 
 namespace survey::testing {
 namespace {
@@ -29,7 +28,7 @@ double HeightOf(const GridDesign& design) {
 }
 
 // What does not fit is cut off or printed over the next table: no figure may be lost that way.
-class Paper : public World, public ::testing::Test {
+class Paper : public HeadlessProgram, public ::testing::Test {
  protected:
   Paper() { RegisterPages(host); }
 

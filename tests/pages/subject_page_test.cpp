@@ -23,7 +23,7 @@ const std::string kFind =
     "Select subjectCode,subjectid,description,programme from lst_Subject where ";
 const std::string kAssigned = "The subject you have selected has already been assigned as a ";
 
-class SubjectPages : public World, public ::testing::Test {
+class SubjectPages : public HeadlessProgram, public ::testing::Test {
  protected:
   SubjectPages() {
     RegisterShell(host);
@@ -93,7 +93,7 @@ TEST_F(SubjectPages, ASearchPicksItsFirstHitAndShowsTheOthers) {
   EXPECT_THAT(statements, ElementsAre(kFind + "description like  '%MATHS%'",
                                       "Select subjectcode from lst_subject where subjectid =7"));
   EXPECT_THAT(Offered(), ElementsAre("100 Maths N1 Report 191", "101 Maths N2 Report 191"));
-  EXPECT_EQ(SearchText() + Line(1), "100 Maths N1 Report 191||||100");
+  EXPECT_EQ(SearchText() + " / " + Line(1), " / 100 Maths N1 Report 191||||100");
   EXPECT_FALSE(Unsaved());
   EXPECT_EQ(Combo().BackColor, kYellow);
   On<OptionButton>("optCode").Click();
@@ -124,7 +124,7 @@ TEST_F(SubjectPages, TheTypesOfferTheirProgrammeAndAreClearedBehindTheCatalogue)
                                      "' order by programme,description");
     const auto offered = Offered();
     EXPECT_EQ(offered.at(0), first);
-    EXPECT_EQ(SearchText() + Lines().GetText(2, 2), "");
+    EXPECT_EQ(SearchText() + " / " + Lines().GetText(2, 2), " / ");
     modal_scripts = {[](Form& form) { form.Find<Button>("cmdDone").Click(); }};
     Press(button);
     EXPECT_THAT(modal_scripts, IsEmpty());
@@ -146,7 +146,8 @@ TEST_F(SubjectPages, ASixteenthSubjectIsDroppedAndAGapTakesTheNext) {
   EXPECT_FALSE(Unsaved());
   Remove("-3x");  // digits alone are taken
   EXPECT_TRUE(Unsaved());
-  EXPECT_EQ(Lines().GetText(1, 4) + Line(3) + Line(4), "3||||F4 Filler 4 Other||||F4");
+  EXPECT_EQ(Lines().GetText(1, 4) + ": " + Line(3) + " / " + Line(4),
+            "3: |||| / F4 Filler 4 Other||||F4");
   Combo().Choose(15);
   EXPECT_EQ(Line(3), "F16 Filler 16 Other||||F16");
 }
@@ -172,8 +173,10 @@ TEST_F(SubjectPages, KeepsWholeNumbersOfTheLinesWithACode) {
   Months().Tick(3, 3);
   EXPECT_TRUE(Unsaved());
   Open(kTeaching);
-  EXPECT_EQ(Line(1) + Line(3), "100 Maths N1 Report 191|2|4|10000000|100||||");
-  EXPECT_EQ(Months().GetText(2, 3) + Months().GetText(3, 3) + Months().GetText(13, 3), "11");
+  EXPECT_EQ(Line(1) + " / " + Line(3), "100 Maths N1 Report 191|2|4|10000000|100 / ||||");
+  for (const auto& [month, tick] : {std::pair{2, "1"}, {3, ""}, {13, "1"}}) {
+    EXPECT_EQ(Months().GetText(month, 3), tick) << month;
+  }
 }
 
 TEST_F(SubjectPages, TheQualifiedListGoesByTheSameRulesInItsOwnTable) {
@@ -190,7 +193,8 @@ TEST_F(SubjectPages, TheQualifiedListGoesByTheSameRulesInItsOwnTable) {
   survey.Execute(kQualifiedInsert + "'gone',1,1)");
   survey.Execute(kQualifiedInsert + "'300',null,2.5)");
   Open(kQualified);
-  EXPECT_EQ(Line(1) + Line(2), "100 Maths N1 Report 191|0|2|100300 Women's Health NSC||2|300");
+  EXPECT_EQ(Line(1) + " / " + Line(2),
+            "100 Maths N1 Report 191|0|2|100 / 300 Women's Health NSC||2|300");
   Save();  // a line whose subject has left the catalogue goes
   EXPECT_THAT(Query("select SubjectCode as r from tbl_LecturerQualificationSubject order by rowid"),
               ElementsAre("100", "300"));
@@ -223,12 +227,12 @@ TEST_F(SubjectPages, OnlyTheWayForwardAsks) {
     EXPECT_EQ(Front(), page);
     dialogs.answers = {kAnswerYes};
     Press("cmdForward");
-    EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), ahead + std::string("8002"));
+    EXPECT_EQ(Front() + " " + host.Front()->Property("EducatorId"), ahead + std::string(" 8002"));
     Open(page, "8003");
     Lines().Type(3, 2, "1");
     dialogs.seen.clear();
     Press("cmdNext");
-    EXPECT_EQ(Front() + host.Front()->Property("EducatorId"), aside + std::string("8003"));
+    EXPECT_EQ(Front() + " " + host.Front()->Property("EducatorId"), aside + std::string(" 8003"));
     EXPECT_THAT(dialogs.seen, IsEmpty());
   }
 }

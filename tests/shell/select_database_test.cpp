@@ -12,7 +12,7 @@
 #include "platform/program_folder.h"
 #include "shell/data_folder.h"
 #include "shell/register_shell.h"
-#include "world.h"
+#include "support/headless_program.h"
 
 namespace survey::testing {
 namespace {
@@ -25,7 +25,7 @@ using ::testing::IsEmpty;
 constexpr char kForm[] = "frmSelectDatabase";
 constexpr char kSetting[] = "OSTRELCORVALEANNUALSURVEY/Startup/Database";
 
-class SelectDatabase : public World, public ::testing::Test {
+class SelectDatabase : public HeadlessProgram, public ::testing::Test {
  protected:
   SelectDatabase() { RegisterShell(host); }
 

@@ -8,7 +8,7 @@
 
 #include "pages/survey_pages.h"
 #include "shell/register_shell.h"
-#include "world.h"
+#include "support/headless_program.h"
 
 namespace survey::testing {
 
@@ -29,7 +29,7 @@ struct Typed {
 };
 
 // A page of site 101, campus 202, open in front of its user, with one grid in hand.
-class PageTest : public World, public ::testing::Test {
+class PageTest : public HeadlessProgram, public ::testing::Test {
  protected:
   PageTest(std::string page, std::string grid, int index = kNoIndex)
       : page_(std::move(page)), grid_(std::move(grid)), index_(index) {
@@ -62,8 +62,8 @@ class PageTest : public World, public ::testing::Test {
     for (int i = first; i <= last; ++i) open += Table().IsOpen(i, row) ? 'o' : '_';
     return open;
   }
-  using World::Click;
-  void Click(std::string_view button) { World::Click(page_, button); }
+  using HeadlessProgram::Click;
+  void Click(std::string_view button) { HeadlessProgram::Click(page_, button); }
   bool Yellow(std::string_view button) { return The<Button>(page_, button).BackColor == kYellow; }
   bool Unsaved() { return Yellow("cmdSave"); }
   void Save() { Click("cmdSave"); }
@@ -86,13 +86,14 @@ class PageTest : public World, public ::testing::Test {
     return statements;
   }
   // The cells that are open are those of `blocks`, and no others.
-  void ExpectOpen(const std::vector<CellRange>& blocks) {
-    for (int row = 1; row <= Table().MaxRows(); ++row) {
-      for (int column = 1; column <= Table().MaxColumns(); ++column) {
+  void ExpectOpen(const std::vector<CellRange>& blocks) { ExpectOpen(Table(), blocks); }
+  static void ExpectOpen(const Grid& grid, const std::vector<CellRange>& blocks) {
+    for (int row = 1; row <= grid.MaxRows(); ++row) {
+      for (int column = 1; column <= grid.MaxColumns(); ++column) {
         const bool open = std::ranges::any_of(blocks, [&](const CellRange& block) {
           return block.Contains({column, row});
         });
-        EXPECT_EQ(Table().IsOpen(column, row), open) << "column " << column << " row " << row;
+        EXPECT_EQ(grid.IsOpen(column, row), open) << "column " << column << " row " << row;
       }
     }
   }

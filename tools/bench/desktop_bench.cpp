@@ -1,0 +1,193 @@
+// What the user waits for: the first window, and a page after its click; and what it takes of the
+// memory. Each beside the toolkit alone: a window with a label, and the page's texts in plain
+// tables. Without a screen.
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QMainWindow>
+#include <QProcess>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "desktop/desktop.h"
+#include "offscreen.h"
+#include "pages/survey_pages.h"
+#include "report.h"
+#include "shell/register_shell.h"
+#include "support/headless_program.h"
+
+namespace survey::bench {
+namespace {
+
+constexpr double kFirstWindowBound = 500;  // milliseconds
+constexpr double kMemoryBound = 120;       // MiB
+constexpr double kPageBound = 50;          // milliseconds
+
+// Seconds since the process was started, loading of the libraries included.
+double SecondsSinceStart() {
+  std::ifstream stat("/proc/self/stat");
+  std::string text((std::istreambuf_iterator<char>(stat)), {});
+  std::istringstream fields(text.substr(text.rfind(')') + 2));
+  std::string field;
+  constexpr int kStartTime = 20;  // fields behind the name
+  for (int i = 0; i < kStartTime; ++i) fields >> field;
+  double uptime = 0;
+  std::ifstream("/proc/uptime") >> uptime;
+  return uptime - std::stod(field) / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
+double ResidentMebibytes() {
+  std::ifstream status("/proc/self/status");
+  std::string line;
+  while (std::getline(status, line)) {
+    if (line.starts_with("VmRSS:")) return std::stod(line.substr(6)) / 1024;
+  }
+  return 0;
+}
+
+// Everything painted that waits to be, and gone what a running event loop would have let go.
+void Settle(QWidget& window) {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+  window.repaint();
+  QApplication::processEvents();
+}
+
+double Median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+// The texts of the page's grids in plain tables, as the content of a plain window.
+QWidget* PlainTables(const Form& page) {
+  auto* tables = new QWidget;
+  auto* column = new QVBoxLayout(tables);
+  for (const Control* control : page.controls()) {
+    const auto* grid = dynamic_cast<const GridControl*>(control);
+    if (grid == nullptr) continue;
+    auto* table = new QTableWidget(grid->MaxRows(), grid->MaxColumns());
+    for (int row = 1; row <= grid->MaxRows(); ++row) {
+      for (int cell = 1; cell <= grid->MaxColumns(); ++cell) {
+        const QString text = QString::fromStdString(grid->GetText(cell, row));
+        table->setItem(row - 1, cell - 1, new QTableWidgetItem(text));
+      }
+    }
+    column->addWidget(table);
+  }
+  return tables;
+}
+
+struct Showing {
+  std::vector<double> ours;   // milliseconds from the click that shows a page to its picture
+  std::vector<double> plain;  // and until its texts stand in plain tables
+};
+
+// By turns, in windows of one size.
+Showing Show(Desktop& desktop, QMainWindow& plain, const std::string& page) {
+  Showing times;
+  constexpr int kTimes = 11;
+  for (int i = 0; i < kTimes; ++i) {
+    Form& menu = *desktop.host().Front();
+    QElapsedTimer timer;
+    timer.start();
+    desktop.host().Dispatch(menu, [&] {
+      desktop.host().Show(page);
+      desktop.host().Unload(menu);
+    });
+    Settle(desktop.view().window());
+    times.ours.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    timer.restart();
+    plain.setCentralWidget(PlainTables(desktop.host().Get(page)));
+    Settle(plain);
+    times.plain.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    Form& shown = *desktop.host().Front();
+    desktop.host().Dispatch(shown, [&] {
+      desktop.host().Show("frmMainMenu");
+      desktop.host().Unload(shown);
+    });
+    Settle(desktop.view().window());
+  }
+  return times;
+}
+
+// What the toolkit alone takes for a window: run as a process of its own.
+constexpr char kPlainWindow[] = "--plain-window";
+
+int ShowPlainWindow(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  QMainWindow window;
+  window.setCentralWidget(new QLabel("A window"));
+  window.show();
+  Settle(window);
+  std::printf("%f %f\n", 1e3 * SecondsSinceStart(), ResidentMebibytes());
+  return 0;
+}
+
+void ReportFirstWindow(Report& report, const char* program) {
+  const double milliseconds = 1e3 * SecondsSinceStart();
+  const double mebibytes = ResidentMebibytes();
+  QProcess plain;
+  plain.start(program, {kPlainWindow});
+  plain.waitForFinished();
+  const QList<QByteArray> figures = plain.readAllStandardOutput().split(' ');
+  report.Ratio("first window", milliseconds, figures.value(0).toDouble(), "ms");
+  report.Ratio("memory then", mebibytes, figures.value(1).toDouble(), "MiB");
+  report.Amount("first window", milliseconds, "ms", kFirstWindowBound);
+  report.Amount("memory then", mebibytes, "MiB", kMemoryBound);
+}
+
+int Run(int argc, char** argv) {
+  Report report("The windows");
+  const QApplication application(argc, argv);
+  SetUpApplication();
+  Desktop desktop;
+  RegisterShell(desktop.host());
+  RegisterPages(desktop.host());
+  desktop.host().Start("frmSelectDatabase");
+  Settle(desktop.view().window());
+  ReportFirstWindow(report, argv[0]);
+
+  const testing::TemporaryFolder folder;
+  const auto database = folder.path() / "bench.mdb";
+  std::filesystem::copy_file(testing::TemplateFile(), database);
+  desktop.survey().DatabasePath = database.string();
+  desktop.survey().CollegeEmisNumber = 101;
+  desktop.survey().CampusEmisNumber = 202;
+  desktop.host().Get("frmMainMenu").Property("EditMode") = "Edit";
+  Form& first = *desktop.host().Front();
+  desktop.host().Dispatch(first, [&] {
+    desktop.host().Show("frmMainMenu");
+    desktop.host().Unload(first);
+  });
+  QMainWindow plain;
+  plain.resize(desktop.view().window().size());
+  plain.show();
+  for (const PageRow& row : desktop.host().pages()) {
+    const std::string page(row.name);
+    const Showing times = Show(desktop, plain, page);
+    const double ours = Median(times.ours);
+    const double baseline = Median(times.plain);
+    report.Ratio(page, ours, baseline, "ms");
+    report.Amount(page, ours, "ms", kPageBound);
+  }
+  report.Amount("memory after all pages", ResidentMebibytes(), "MiB");
+  return report.ExitCode();
+}
+
+}  // namespace
+}  // namespace survey::bench
+
+int main(int argc, char** argv) {
+  survey::UseOffscreenPlatform();
+  const bool plain = argc > 1 && std::string_view(argv[1]) == survey::bench::kPlainWindow;
+  return plain ? survey::bench::ShowPlainWindow(argc, argv) : survey::bench::Run(argc, argv);
+}
