@@ -26,6 +26,21 @@ constexpr int kMostWork = 1'000;       // times as many steps
 constexpr int kLongestText = 1 << 20;  // bytes of a field, and of a statement
 constexpr std::string_view kPlainMark{"SQLite format 3\0", kSaltBytes};
 
+// Every survey file is of format 3, whichever engine writes it: a file goes from any computer to
+// any other, and engines of generation 3, as in Debian 12, know no later one. Format 4 takes: no
+// computer left with such an engine; the 4 here, its kPageBytes, and its derivation in
+// cipher_key.cpp; and an opening that tries format 3 where 4 does not fit, and exports such a file
+// into a new one.
+constexpr char kFileFormat[] = "PRAGMA cipher_compatibility = 3";
+
+// Engines of generation 4 have a log of their own, which begins with the first key of a program and
+// goes to standard error. What it tells our messages tell. Older ones pass over a pragma that they
+// do not know.
+constexpr char kNoLog[] = "PRAGMA cipher_log_source = NONE; PRAGMA cipher_log_level = NONE";
+
+// A folder in which no journal can be made. Engines of generation 3 answer it with SQLITE_CANTOPEN.
+constexpr int kReadOnlyFolder = SQLITE_READONLY | (6 << 8);
+
 RunTimeError Refusal(int code, const std::string& path, const std::string& reason) {
   return {static_cast<double>(code), '"' + path + "\" " + reason};
 }
@@ -50,8 +65,10 @@ RunTimeError EngineError(sqlite3* database) {
   constexpr int kPrimaryCode = 0xff;
   int code = sqlite3_extended_errcode(database);
   const std::string message = sqlite3_errmsg(database);
+  if (code == kReadOnlyFolder) code = SQLITE_CANTOPEN;
   // A page that cannot be deciphered is a failure without a text of its own.
-  if (code == SQLITE_NOTADB || (code == SQLITE_ERROR && message == sqlite3_errstr(code))) {
+  if ((code & kPrimaryCode) == SQLITE_CORRUPT || code == SQLITE_NOTADB ||
+      (code == SQLITE_ERROR && message == sqlite3_errstr(code))) {
     code = SQLITE_CORRUPT;
   }
   const std::string_view explained = Explained(code);
@@ -109,13 +126,13 @@ void RequireCipher(sqlite3* database) {
   if (!proven) throw RunTimeError(SQLITE_MISUSE, "The store engine has no encryption");
 }
 
-// The format pragma belongs right after the key: an engine of the next generation then reads and
-// writes our format, and the present one passes over a pragma that it does not know.
+// The format belongs right after the key, before anything is read.
 void Unlock(sqlite3* database, std::string_view key) {
+  Run(database, kNoLog);
   if (sqlite3_key(database, key.data(), static_cast<int>(key.size())) != SQLITE_OK) {
     throw EngineError(database);
   }
-  Run(database, "PRAGMA cipher_compatibility = 3");
+  Run(database, kFileFormat);
   sqlite3_busy_timeout(database, kPatienceMilliseconds);
   RequireCipher(database);
 }
