@@ -15,61 +15,108 @@ constexpr int kMostDigits = 300;  // more may be beyond what a number can hold
 
 bool IsDigit(char character) { return '0' <= character && character <= '9'; }
 
-bool IsDigits(std::string_view text) { return std::ranges::all_of(text, IsDigit); }
+// ---- Signs ---------------------------------------------------------------------------------
+
+// `text` without blanks at its ends, its blanks and dashes those of a keyboard: texts from other
+// programs bring the printer's.
+std::string PlainSigns(std::string_view text) {
+  struct Sign {
+    std::string_view found;
+    char plain;
+  };
+  static constexpr Sign kSigns[] = {
+      {"\u00A0", ' '}, {"\u2009", ' '}, {"\u202F", ' '}, {"\u2010", '-'},
+      {"\u2011", '-'}, {"\u2012", '-'}, {"\u2013", '-'}, {"\u2212", '-'},
+  };
+  std::string plain(text);
+  for (const Sign& sign : kSigns) {
+    for (std::size_t at = plain.find(sign.found); at != plain.npos; at = plain.find(sign.found)) {
+      plain.replace(at, sign.found.size(), 1, sign.plain);
+    }
+  }
+  return Trim(plain);
+}
 
 // ---- Numbers -------------------------------------------------------------------------------
 
-// How a plain decimal number is written, complete or half typed.
-struct NumberShape {
+constexpr int kNotGrouped = -1;
+constexpr int kGroup = 3;  // digits between two blanks
+
+// A number as it is written, complete or half typed.
+struct WrittenNumber {
+  std::string plain;  // without blanks, the decimal mark a point
   bool negative = false;
   bool point = false;
   int digits = 0;  // decimals included
   int decimals = 0;
+  int group = kNotGrouped;  // digits since the last blank
+
+  bool HasWholeGroups() const { return group == kNotGrouped || group == kGroup; }
 };
 
-// None where a character has no place in a number. A comma has none: read as a decimal mark or
-// passed over, it would give another number than the one meant.
-std::optional<NumberShape> ShapeOf(std::string_view text) {
-  NumberShape shape;
-  if (text.starts_with('-')) {
-    shape.negative = true;
-    text.remove_prefix(1);
-  }
+// Whether a blank may follow what has been read, that is, begin the next group of three.
+bool MayBeginGroup(const WrittenNumber& read) {
+  const bool after_first = read.group == kNotGrouped && 0 < read.digits && read.digits <= kGroup;
+  return !read.point && (after_first || read.group == kGroup);
+}
+
+// None where a character has no place in a number. The mark is a point, and where `comma` a comma
+// just as well; nowhere does either stand between groups.
+std::optional<WrittenNumber> ReadNumber(std::string_view text, bool comma) {
+  WrittenNumber read;
   for (const char character : text) {
-    if (character == '.' && !shape.point) {
-      shape.point = true;
+    if (character == '-' && read.plain.empty()) {
+      read.negative = true;
+      read.plain += '-';
+    } else if (character == ' ' && MayBeginGroup(read)) {
+      read.group = 0;
+    } else if (character == '.' || (comma && character == ',')) {
+      if (read.point || !read.HasWholeGroups()) return std::nullopt;
+      read.point = true;
+      read.plain += '.';
     } else if (IsDigit(character)) {
-      ++shape.digits;
-      shape.decimals += shape.point ? 1 : 0;
+      const bool grouped = read.group != kNotGrouped && !read.point;
+      if (grouped && ++read.group > kGroup) return std::nullopt;
+      ++read.digits;
+      read.decimals += read.point ? 1 : 0;
+      read.plain += character;
     } else {
       return std::nullopt;
     }
   }
-  if (shape.digits > kMostDigits) return std::nullopt;
-  return shape;
+  if (read.digits > kMostDigits) return std::nullopt;
+  return read;
 }
 
-bool TakesShape(const CellKind& kind, const std::optional<NumberShape>& shape) {
-  return shape && (!shape->negative || kind.minimum < 0) && (!shape->point || kind.decimals > 0) &&
-         shape->decimals <= kind.decimals;
+// None where the kind does not take the sign, the mark or so many decimals either.
+std::optional<WrittenNumber> ReadNumber(const CellKind& kind, std::string_view text) {
+  auto read = ReadNumber(text, kind.decimals > 0);
+  const bool taken = read && (!read->negative || kind.minimum < 0) &&
+                     (!read->point || kind.decimals > 0) && read->decimals <= kind.decimals;
+  return taken ? std::move(read) : std::nullopt;
 }
 
-std::optional<std::string> CanonicalNumber(const CellKind& kind, const std::string& text) {
-  const auto shape = ShapeOf(text);
-  if (!TakesShape(kind, shape) || shape->digits == 0) return std::nullopt;
-  const double number = LeadingNumber(text);
+std::optional<std::string> CanonicalNumber(const CellKind& kind, std::string_view text) {
+  const auto read = ReadNumber(kind, text);
+  if (!read || read->digits == 0 || !read->HasWholeGroups()) return std::nullopt;
+  const double number = LeadingNumber(read->plain);
   if (number < kind.minimum || number > kind.maximum) return std::nullopt;
   return NumberText(number);
 }
 
-// More digits take a number only further from 0: past the far limit it is lost, while short of
-// the near one it may still grow.
-bool NumberMayGrow(const CellKind& kind, const std::string& text) {
-  const auto shape = ShapeOf(text);
-  if (!TakesShape(kind, shape)) return false;
-  if (shape->digits == 0) return true;
-  const double number = LeadingNumber(text);
-  return shape->negative ? number >= kind.minimum : number <= kind.maximum;
+// Whether more digits can bring a number between the limits: each makes it ten times as large, and
+// larger by less than its last place; after the point only the latter.
+bool NumberMayGrow(const CellKind& kind, std::string_view text) {
+  const auto read = ReadNumber(kind, text);
+  if (!read) return false;
+  if (read->digits == 0) return true;
+  const double size = std::abs(LeadingNumber(read->plain));
+  const double low = read->negative ? -kind.maximum : kind.minimum;
+  const double high = read->negative ? -kind.minimum : kind.maximum;
+  if (read->point) return size <= high && size + std::pow(10.0, -read->decimals) > low;
+  double scale = read->HasWholeGroups() ? 1 : std::pow(10.0, kGroup - read->group);
+  while (size * scale <= high && (size + 1) * scale <= low) scale *= 10;
+  return size * scale <= high;
 }
 
 // A maximum may stand between two numbers that the kind can write: 9999.99 lets in 9999.
@@ -88,9 +135,12 @@ std::string RequestOfNumber(const CellKind& kind) {
 
 // ---- Dates ---------------------------------------------------------------------------------
 
-// The digits of a date typed as yyyymmdd, yyyy/mm/dd or yyyy-mm-dd, or of its beginning.
+constexpr std::string_view kDateSeparators = "/-.";
+
+// The digits of a date typed as yyyymmdd or yyyy/mm/dd, be it with another separator, or of its
+// beginning. With the year first it cannot be misread.
 std::optional<std::string> DateDigits(std::string_view text) {
-  const bool separated = text.size() > 4 && (text[4] == '/' || text[4] == '-');
+  const bool separated = text.size() > 4 && kDateSeparators.find(text[4]) != kDateSeparators.npos;
   std::string digits;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (separated && (i == 4 || i == 7)) {
@@ -132,6 +182,28 @@ std::optional<std::string> CanonicalDate(std::string_view text) {
   return digits->substr(0, 4) + "/" + digits->substr(4, 2) + "/" + digits->substr(6);
 }
 
+// ---- Codes and telephone numbers -----------------------------------------------------------
+
+// The digits of a code, or of its beginning. Blanks, hyphens and brackets only make them easier to
+// read, but a hyphen before them all is the sign of a number.
+std::optional<std::string> CodeDigits(std::string_view text) {
+  if (text.starts_with('-')) return std::nullopt;
+  std::string digits;
+  for (const char character : text) {
+    if (IsDigit(character)) {
+      digits += character;
+    } else if (std::string_view(" -()").find(character) == std::string_view::npos) {
+      return std::nullopt;
+    }
+  }
+  return digits;
+}
+
+std::optional<std::string> CanonicalCode(const CellKind& kind, std::string_view text) {
+  const auto digits = CodeDigits(text);
+  return digits && !digits->empty() && std::ssize(*digits) <= kind.length ? digits : std::nullopt;
+}
+
 // ---- Texts ---------------------------------------------------------------------------------
 
 std::optional<std::string> CanonicalText(const CellKind& kind, std::string_view text) {
@@ -148,21 +220,24 @@ std::optional<std::string> CanonicalEntry(const CellKind& kind, std::string_view
   if (kind.type == CellKind::Type::kLabel) return std::nullopt;
   if (kind.type == CellKind::Type::kText) return CanonicalText(kind, text);
 
-  const std::string trimmed = Trim(text);
-  if (trimmed.empty()) return trimmed;
-  if (kind.type == CellKind::Type::kNumber) return CanonicalNumber(kind, trimmed);
-  if (kind.type == CellKind::Type::kDate) return CanonicalDate(trimmed);
-  const bool fits = kind.type == CellKind::Type::kDigits
-                        ? IsDigits(trimmed) && std::ssize(trimmed) <= kind.length
-                        : trimmed == "0" || trimmed == "1";
-  return fits ? std::optional(trimmed) : std::nullopt;
+  const std::string plain = PlainSigns(text);
+  if (plain.empty()) return plain;
+  if (kind.type == CellKind::Type::kNumber) return CanonicalNumber(kind, plain);
+  if (kind.type == CellKind::Type::kDate) return CanonicalDate(plain);
+  if (kind.type == CellKind::Type::kDigits) return CanonicalCode(kind, plain);
+  return plain == "0" || plain == "1" ? std::optional(plain) : std::nullopt;
 }
 
 bool MayBecomeEntry(const CellKind& kind, std::string_view text) {
-  if (kind.type == CellKind::Type::kNumber) return NumberMayGrow(kind, Trim(text));
+  const std::string plain = PlainSigns(text);
+  if (kind.type == CellKind::Type::kNumber) return NumberMayGrow(kind, plain);
   if (kind.type == CellKind::Type::kDate) {
-    const auto digits = DateDigits(Trim(text));
+    const auto digits = DateDigits(plain);
     return digits && DateMayGrow(*digits);
+  }
+  if (kind.type == CellKind::Type::kDigits) {
+    const auto digits = CodeDigits(plain);
+    return digits && std::ssize(*digits) <= kind.length;
   }
   return CanonicalEntry(kind, text).has_value();
 }
@@ -189,10 +264,9 @@ std::string RequestOf(const CellKind& kind) {
 
 std::optional<double> NumberHeld(std::string_view text) {
   if (text.empty()) return std::nullopt;
-  const std::string trimmed = Trim(text);
-  const auto shape = ShapeOf(trimmed);
-  if (!shape || shape->digits == 0) return std::nullopt;
-  return LeadingNumber(trimmed);
+  const auto read = ReadNumber(Trim(text), false);
+  if (!read || read->digits == 0 || read->group != kNotGrouped) return std::nullopt;
+  return LeadingNumber(read->plain);
 }
 
 double RoundedTo(double number, int decimals) {

@@ -9,13 +9,18 @@
 
 namespace survey {
 
-// What a cell of `kind` holds once the user has entered `text`: numbers without blanks and
-// leading zeros, capitals, dates as yyyy/mm/dd. "" empties a cell of any kind but a label.
-// None when the kind does not take the text.
+// What a cell of `kind` holds once the user has entered `text`, typed or pasted: numbers without
+// blanks and leading zeros, their decimal mark a point; codes as their digits alone; capitals;
+// dates as yyyy/mm/dd. "" empties a cell of any kind but a label. None when the kind does not take
+// the text as a whole: no part of it is ever taken alone, nor read otherwise than it was meant.
+//
+// Read as meant are blanks between groups of three digits ("1 234"), a comma for the point where
+// the kind has decimals, and blanks, hyphens and brackets in a code. The user's locale does not
+// matter.
 std::optional<std::string> CanonicalEntry(const CellKind& kind, std::string_view text);
 
-// Whether more characters after `text` could still make it an entry of `kind`, or it is one. May
-// say yes where every continuation is refused, never no where one is taken.
+// Whether more characters after `text` could still make it an entry of `kind`, or it is one. Never
+// no where one is taken.
 bool MayBecomeEntry(const CellKind& kind, std::string_view text);
 
 // What is said of a label.
