@@ -114,7 +114,7 @@ QColor GridPainter::ColorOf(Cell cell) const {
 GridPainter::Setting GridPainter::SettingOf(Cell cell, const CellLook& look) const {
   Setting setting;
   setting.text = cell.row == 0 ? HeadText(grid_, cell.column) : ShownText(grid_, cell);
-  const bool head = cell.row <= sheet_.head_rows();
+  const bool head = cell.row <= grid_.design().head_rows;
   setting.bold =
       head || grid_.IsBold(cell.column, cell.row) || grid_.IsTotal(cell.column, cell.row);
   setting.alignment = head && !IsTitleRow(grid_, cell.row) && !IsAligned(grid_.design(), cell)

@@ -33,12 +33,33 @@ int RowHeight(const Grid& grid, int row) {
   return row <= std::ssize(design.row_heights) ? design.row_heights[row - 1] : design.row_height;
 }
 
+bool TakesTyping(const Grid& grid, const CellRange& cells) {
+  for (int row = cells.row; row <= cells.last_row; ++row) {
+    for (int column = cells.column; column <= cells.last_column; ++column) {
+      if (grid.IsOpen(column, row)) return true;
+    }
+  }
+  return false;
+}
+
+// The cursor does not reach what stays in view: heads and labels that take typing go along with
+// the other cells.
+int HeadRows(const Grid& grid) {
+  const int rows = std::min(grid.design().head_rows, grid.MaxRows());
+  return TakesTyping(grid, {1, 1, grid.MaxColumns(), rows}) ? 0 : rows;
+}
+
+int LabelColumns(const Grid& grid) {
+  const int columns = std::min(grid.design().label_columns, grid.MaxColumns());
+  return TakesTyping(grid, {1, 1, columns, grid.MaxRows()}) ? 0 : columns;
+}
+
 }  // namespace
 
 GridSheet::GridSheet(const Grid& grid, double units_per_twip)
     : units_per_twip_(units_per_twip),
-      head_rows_(std::min(grid.design().head_rows, grid.MaxRows())),
-      label_columns_(std::min(grid.design().label_columns, grid.MaxColumns())) {
+      head_rows_(HeadRows(grid)),
+      label_columns_(LabelColumns(grid)) {
   // Each edge is rounded for itself: rounded widths would add up to another sheet.
   const auto add_edge = [&](std::vector<int>& edges, int twips) {
     edges.push_back(static_cast<int>(std::lround(twips * units_per_twip)));

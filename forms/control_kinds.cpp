@@ -253,7 +253,7 @@ const char* GridControl::EventOf(Action action) {
 }
 
 GridControl::GridControl(Form& form, std::string name, const GridDesign& design, int index)
-    : Control(form, std::move(name), index), Grid(design) {
+    : Control(form, std::move(name), index), Grid(design, &form.history()) {
   AccessibleName = design.title;
 }
 

@@ -52,6 +52,8 @@ class Form {
   }
 
   const std::vector<Control*>& controls() const { return controls_; }
+  // What the user has done in the form's tables since it was loaded.
+  EditHistory& history() { return history_; }
   // The control (or grid) of that name and index; throws std::out_of_range where there is none,
   // std::bad_cast where it is of another kind.
   template <typename Kind>
@@ -112,6 +114,7 @@ class Form {
   std::string name_;
   std::string design_caption_;
   std::vector<Control*> controls_;
+  EditHistory history_;
   std::map<std::string, std::variant<std::string, double>, std::less<>> properties_;
   Control* focus_request_ = nullptr;
   std::string routine_;  // that the host or a control ran last

@@ -8,12 +8,13 @@
 
 namespace survey {
 
-Grid::Grid(const GridDesign& design)
-    : design_(&design), rows_(design.rows), index_(design, design.rows) {
+Grid::Grid(const GridDesign& design, EditHistory* history)
+    : design_(&design), history_(history), rows_(design.rows), index_(design, design.rows) {
   ReturnToDesign();
 }
 
 void Grid::ReturnToDesign() {
+  EndHistory();
   if (rows_ != design_->rows) {
     rows_ = design_->rows;
     index_ = DesignIndex(*design_, rows_);
@@ -35,7 +36,7 @@ const std::string& Grid::GetText(int column, int row) const {
 
 void Grid::SetText(int column, int row, std::string_view text) {
   const int position = PositionOf(column, row);
-  if (position != kNowhere) Write(position, std::string(text));
+  if (position != kNowhere) WriteByCode(position, std::string(text));
 }
 
 void Grid::SetText(int column, int row, double number) { SetText(column, row, NumberText(number)); }
@@ -75,10 +76,8 @@ void Grid::SetActiveCell(int column, int row) {
 void Grid::ClearRange(int column, int row, int last_column, int last_row) {
   for (int r = std::max(row, 1); r <= std::min(last_row, rows_); ++r) {
     for (int c = std::max(column, 1); c <= std::min(last_column, MaxColumns()); ++c) {
-      const int position = PositionOf(c, r);
-      Write(position, "");
-      // The formula of a total stays, so it shows its sum again.
-      cells_[position].stale = index_.At(position).total >= 0;
+      WriteByCode(PositionOf(c, r), "");
+      ShowSum(PositionOf(c, r));
     }
   }
 }
@@ -86,6 +85,7 @@ void Grid::ClearRange(int column, int row, int last_column, int last_row) {
 void Grid::SetMaxRows(int rows) {
   rows = std::max(rows, 0);
   if (rows == rows_) return;
+  if (rows < rows_) EndHistory();
   const int before = MaxColumns() * rows_;
   for (int dropped = MaxColumns() * rows; dropped < before; ++dropped) MarkTotalsOver(dropped);
   rows_ = rows;
@@ -169,8 +169,7 @@ std::optional<Cell> Grid::NextOpenCell(Cell from) const {
   const int columns = MaxColumns();
   const int start = (from.row - 1) * columns + std::clamp(from.column, 0, columns);
   for (int position = std::max(start, 0); position < std::ssize(cells_); ++position) {
-    const Cell cell{position % columns + 1, position / columns + 1};
-    if (IsOpen(cell.column, cell.row)) return cell;
+    if (IsStop(position)) return CellOf(position);
   }
   return std::nullopt;
 }
@@ -179,8 +178,7 @@ std::optional<Cell> Grid::PreviousOpenCell(Cell from) const {
   const int columns = MaxColumns();
   const int start = (from.row - 1) * columns + std::clamp(from.column, 1, columns + 1) - 2;
   for (int position = std::min(start, columns * rows_ - 1); position >= 0; --position) {
-    const Cell cell{position % columns + 1, position / columns + 1};
-    if (IsOpen(cell.column, cell.row)) return cell;
+    if (IsStop(position)) return CellOf(position);
   }
   return std::nullopt;
 }
@@ -208,6 +206,14 @@ Entry Grid::Type(int column, int row, std::string_view text) {
 
 Entry Grid::Tick(int column, int row) {
   return EntryByUser(Action::kTick, [&] { return TakeTick(column, row); });
+}
+
+Entry Grid::Restore(int column, int row, std::string_view text) {
+  return EntryByUser(IsCheckBox(column, row) ? Action::kTick : Action::kType, [&] {
+    if (const auto why = WhyClosed(column, row); !why.empty())
+      return Entry{false, std::string(why)};
+    return Put(column, row, std::string(text));
+  });
 }
 
 void Grid::MoveTo(int column, int row) {
@@ -247,8 +253,25 @@ void Grid::Write(int position, std::string text) {
   CellState& cell = cells_[position];
   cell.text = std::move(text);
   cell.stale = false;
+  cell.written = true;
   MarkTotalsOver(position);
   ++revision_;
+}
+
+void Grid::WriteByCode(int position, std::string text) {
+  if (history_ != nullptr && Read(position) != text) history_->End();
+  Write(position, std::move(text));
+}
+
+// The formula of a total outlives what was written over it.
+void Grid::ShowSum(int position) {
+  const bool total = index_.At(position).total >= 0;
+  cells_[position].stale = total;
+  if (total) cells_[position].written = false;
+}
+
+void Grid::EndHistory() {
+  if (history_ != nullptr) history_->End();
 }
 
 void Grid::MarkTotalsOver(int position) {
@@ -258,12 +281,22 @@ void Grid::MarkTotalsOver(int position) {
 void Grid::Compute(const DesignIndex::TotalCell& total) const {
   CellState& cell = cells_[total.position];
   cell.stale = false;  // first, so that a total that adds itself comes to an end
+  cell.written = false;
   std::optional<double> sum;
   for (const int added : total.adds) {
     if (const auto number = NumberHeld(Read(added))) sum = sum.value_or(0) + *number;
   }
   const CellRule* rule = index_.At(total.position).rule;
   cell.text = sum ? NumberText(RoundedTo(*sum, rule ? rule->kind.decimals : 0)) : "";
+}
+
+Cell Grid::CellOf(int position) const {
+  return {position % MaxColumns() + 1, position / MaxColumns() + 1};
+}
+
+bool Grid::IsStop(int position) const {
+  const Cell cell = CellOf(position);
+  return IsOpen(cell.column, cell.row) && !index_.At(position).rule->passed_over;
 }
 
 bool Grid::IsCovered(int column, int row) const {
@@ -312,7 +345,14 @@ void Grid::MoveCursor(int column, int row) {
 // The one place where the user's side changes what a cell holds.
 Entry Grid::Put(int column, int row, std::string text) {
   if (text == GetText(column, row)) return {};
-  Write(PositionOf(column, row), std::move(text));
+  const int position = PositionOf(column, row);
+  if (history_ != nullptr) {
+    const bool sum = IsTotal(column, row) && !cells_[position].written;
+    history_->Record(*this, {column, row}, sum ? std::string() : Read(position), text);
+  }
+  const bool emptied = text.empty();
+  Write(position, std::move(text));
+  if (emptied) ShowSum(position);
   if (const Notification& notify = IsCheckBox(column, row) ? on_check : on_change)
     notify(column, row);
   return {};

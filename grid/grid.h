@@ -9,15 +9,11 @@
 #include <vector>
 
 #include "grid/design_index.h"
+#include "grid/edit_history.h"
+#include "grid/entry.h"
 #include "grid/grid_design.h"
 
 namespace survey {
-
-// What became of a user's entry. A refusal says why, in words for the user.
-struct Entry {
-  bool taken = true;
-  std::string reason;  // empty when taken
-};
 
 // What is said about a cell beside its colour, for those who do not see the colour: a short sign
 // drawn in the cell on screen, and a sentence.
@@ -36,8 +32,9 @@ class Grid {
  public:
   using Notification = std::function<void(int column, int row)>;
 
-  // `design` must outlive the grid.
-  explicit Grid(const GridDesign& design);
+  // `design` must outlive the grid, and so must `history`, where all that the user changes is
+  // noted; null: nowhere.
+  explicit Grid(const GridDesign& design, EditHistory* history = nullptr);
   virtual ~Grid() = default;
   Grid(const Grid&) = delete;
   Grid& operator=(const Grid&) = delete;
@@ -91,8 +88,8 @@ class Grid {
   bool IsBold(int column, int row) const;
   // The block that is drawn as one cell and holds this one; the cell alone where there is none.
   CellRange SpanOf(int column, int row) const;
-  // The next cell that takes something, in the order of reading, or the one before; none at the
-  // end. `from` itself does not count.
+  // The next cell to be filled in, in the order of reading, or the one before; none at the end.
+  // Open cells that the design says to pass over do not count, nor does `from` itself.
   std::optional<Cell> NextOpenCell(Cell from) const;
   std::optional<Cell> PreviousOpenCell(Cell from) const;
   // Grows with every change of anything above, so that a view can see whether it is up to date.
@@ -102,11 +99,14 @@ class Grid {
   // Whether `text`, half typed, may still become an entry of that cell.
   Entry MayBecome(int column, int row, std::string_view text) const;
   // Types a text into a cell and leaves the cell. An entry outside the limits is refused, and
-  // the cell keeps what it held; an empty text empties it. An entry that changes nothing is
-  // taken and not notified.
+  // the cell keeps what it held; an empty text empties it, and a total then shows its sum. An
+  // entry that changes nothing is taken and not notified.
   Entry Type(int column, int row, std::string_view text);
   // Operates a check box: notifies on_check, not on_change.
   Entry Tick(int column, int row);
+  // Puts back what an open cell held before, which the limits do not concern: code may have
+  // written it.
+  Entry Restore(int column, int row, std::string_view text);
   // The cursor goes to a cell, by key or mouse: notifies on_cell where it really moved.
   void MoveTo(int column, int row);
   // A click on a cell: moves the cursor there, then notifies on_click. Row 0 is the head.
@@ -130,7 +130,8 @@ class Grid {
     std::optional<bool> locked;
     std::optional<Color> back_color;
     CellNote note;
-    bool stale = false;  // a total to compute before it is read
+    bool stale = false;    // a total to compute before it is read
+    bool written = false;  // a total that shows what was written over it
   };
 
   // Cells go by their position in the order of reading, from 0; kNowhere outside the grid.
@@ -139,9 +140,14 @@ class Grid {
   const CellDesign& DesignOf(int column, int row) const;
   const std::string& Read(int position) const;
   void Write(int position, std::string text);
+  void WriteByCode(int position, std::string text);
+  void ShowSum(int position);
+  void EndHistory();
   void MarkTotalsOver(int position);
   void Compute(const DesignIndex::TotalCell& total) const;
   bool IsCovered(int column, int row) const;
+  Cell CellOf(int position) const;
+  bool IsStop(int position) const;
   std::string_view WhyClosed(int column, int row) const;
   Entry EntryByUser(Action action, const std::function<Entry()>& enter);
   Entry TakeText(int column, int row, std::string_view text);
@@ -150,6 +156,7 @@ class Grid {
   Entry Put(int column, int row, std::string text);
 
   const GridDesign* design_;
+  EditHistory* history_;
   int rows_;
   DesignIndex index_;
   mutable std::vector<CellState> cells_;  // totals are computed when read

@@ -44,7 +44,8 @@ constexpr CellKind CheckBoxCell() { return {CellKind::Type::kCheckBox, 0, 0, 0, 
 struct CellRule {
   CellRange cells;
   CellKind kind;
-  bool open = true;  // takes typing; a closed cell of a kind still formats as that kind
+  bool open = true;          // takes typing; a closed cell of a kind still formats as that kind
+  bool passed_over = false;  // ENTER does not stop at it although it is open
 };
 
 struct CellText {

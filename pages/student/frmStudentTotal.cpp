@@ -29,6 +29,9 @@ const GridDesign& EnrolmentDesign() {
           {2, 4, "Students"},
       },
       .rules = {
+          // Heads and labels are open, as everything but column 13 is.
+          {.cells = {1, 1, 12, 3}, .kind = Text(255), .passed_over = true},
+          {.cells = {1, 4, 2, 4}, .kind = Text(255), .passed_over = true},
           {{3, 4, 12, 4}, Number(0, 999999)},
           {{13, 4}, Number(0, 9999999), false},
       },
@@ -39,6 +42,7 @@ const GridDesign& EnrolmentDesign() {
           {2, 1, 12, 1}, {13, 1, 13, 3},
           {3, 2, 4, 2}, {5, 2, 6, 2}, {7, 2, 8, 2}, {9, 2, 10, 2}, {11, 2, 12, 2},
       },
+      .shades = {{{1, 1, 12, 3}, kGrey}, {{1, 4, 2, 4}, kGrey}},
       .locked_color = kGrey,
       .title = "Table 2.3 Number of unique student enrolments by programme and gender",
   };

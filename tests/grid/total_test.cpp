@@ -22,7 +22,8 @@ GridDesign Totalled(CellKind kind) {
 const GridDesign kCounts = Totalled(Number(0, 99));
 
 TEST(TotalTest, ATextOverATotalShowsUntilOneOfItsCellsIsWritten) {
-  Grid grid(kCounts);
+  EditHistory history;
+  Grid grid(kCounts, &history);
   grid.SetText(2, 2, "1");
   grid.SetText(5, 2, "50");
   EXPECT_EQ(grid.GetText(5, 5), "50") << "the grand total adds what the total shows";
@@ -41,6 +42,12 @@ TEST(TotalTest, ATextOverATotalShowsUntilOneOfItsCellsIsWritten) {
             "This cell is a total, which the table adds up by itself.");
   EXPECT_TRUE(grid.Type(5, 3, "9").taken) << "an open one";
   EXPECT_EQ(grid.GetText(5, 5), "15");
+  history.Undo();
+  EXPECT_EQ(grid.GetText(5, 3), "2") << "its sum";
+  history.Redo();
+  EXPECT_EQ(grid.GetText(5, 3), "9");
+  EXPECT_TRUE(grid.Type(5, 3, "").taken);
+  EXPECT_EQ(grid.GetText(5, 5), "8") << "emptied, it shows its sum again";
 }
 
 TEST(TotalTest, AddsNumbersOnlyAndRoundsToItsDecimals) {
