@@ -114,7 +114,8 @@ class FrameView : public ControlView {
 
 class ButtonWidget : public QPushButton {
  public:
-  ButtonWidget(Button& button, QWidget* parent) : QPushButton(parent), button_(button) {
+  ButtonWidget(Button& button, const FormContext& context)
+      : QPushButton(context.parent), button_(button), run_on_(context.run_on) {
     setAutoDefault(false);
   }
 
@@ -126,7 +127,12 @@ class ButtonWidget : public QPushButton {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (!event->isAutoRepeat()) button_.KeyDown();
+    if (IsEnter(*event) && event->modifiers().testFlag(Qt::ShiftModifier) &&
+        button_.role() == ButtonRole::kSave) {
+      run_on_(button_, true);  // the way on which ENTER came here
+      return;
+    }
+    if (!event->isAutoRepeat() && !IsModifier(*event)) button_.KeyDown();
     if (IsEnter(*event) && !event->isAutoRepeat()) {
       click();
     } else {
@@ -143,12 +149,13 @@ class ButtonWidget : public QPushButton {
 
  private:
   Button& button_;
+  std::function<void(const Control&, bool)> run_on_;
 };
 
 class ButtonView : public ControlView {
  public:
   ButtonView(Button& button, const FormContext& context)
-      : ControlView(button, new ButtonWidget(button, context.parent)),
+      : ControlView(button, new ButtonWidget(button, context)),
         button_(button),
         widget_(static_cast<QPushButton&>(*widget())) {
     QObject::connect(&widget_, &QPushButton::clicked, &widget_,
@@ -299,15 +306,19 @@ class TextBoxView : public ControlView {
 
 class GridControlView : public ControlView {
  public:
-  GridControlView(GridControl& grid, QWidget* parent)
-      : ControlView(grid, new GridView(grid, parent)),
+  GridControlView(GridControl& grid, const FormContext& context)
+      : ControlView(grid, new GridView(grid, context.parent)),
         grid_(grid),
-        widget_(static_cast<GridView&>(*widget())) {}
+        widget_(static_cast<GridView&>(*widget())) {
+    QObject::connect(&widget_, &GridView::PassedEnd, &widget_,
+                     [this, run_on = context.run_on](bool back) { run_on(grid_, back); });
+  }
 
   bool CommitEntry() override { return widget_.CommitEntry(); }
   bool IsOpenForEntry() const override {
     return grid_.Enabled && grid_.NextOpenCell({0, 0}).has_value();
   }
+  void Begin(bool at_end) override { widget_.Begin(at_end); }
 
  private:
   void RefreshState() override { widget_.Refresh(); }
@@ -329,6 +340,8 @@ void ControlView::Refresh() {
   widget_->setToolTip(QString::fromStdString(control_.ToolTip));
   RefreshState();
 }
+
+void ControlView::Begin(bool) { widget_->setFocus(Qt::TabFocusReason); }
 
 std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext& context) {
   if (auto* label = dynamic_cast<Label*>(&control)) {
@@ -355,7 +368,7 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext
   if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
     return std::make_unique<ComboBoxView>(*combo, context.parent);
   }
-  return std::make_unique<GridControlView>(dynamic_cast<GridControl&>(control), context.parent);
+  return std::make_unique<GridControlView>(dynamic_cast<GridControl&>(control), context);
 }
 
 void ShowBackColor(QWidget& widget, Color color, Color standard) {

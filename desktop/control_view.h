@@ -24,6 +24,8 @@ class ControlView {
   virtual bool CommitEntry() { return true; }
   // Whether this is where the user of a form that has come up begins: a table with an open cell.
   virtual bool IsOpenForEntry() const { return false; }
+  // Brings the user to its first place to fill in, or to its last.
+  virtual void Begin(bool at_end);
 
   Control& control() const { return control_; }
   // The parent widget owns it.
@@ -44,6 +46,8 @@ struct FormContext {
   QWidget* parent = nullptr;
   // Makes entries of all that is being typed; false when one is refused.
   std::function<bool()> commit_entries;
+  // ENTER leaves a control for the next one to be filled in, Shift+ENTER for the one before.
+  std::function<void(const Control& from, bool back)> run_on;
   // The options that exclude each other.
   std::function<QButtonGroup*(const std::string& group)> option_group;
 };

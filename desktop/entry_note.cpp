@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QScrollBar>
 #include <algorithm>
 #include <chrono>
 
@@ -21,26 +22,41 @@ EntryNote::EntryNote(QTableView& view) : view_(view) {
 
 EntryNote::~EntryNote() { delete label_; }
 
-void EntryNote::Show(Cell cell, const std::string& text) {
+void EntryNote::Show(Cell cell, const std::string& text, Stays stays) {
   Hide();
   if (text.empty()) return;
+  cell_ = cell;
   const QString told = QString::fromStdString(text);
   label_ = new QLabel(told, view_.window());
   label_->setObjectName(QStringLiteral("entryNote"));
   label_->setTextFormat(Qt::PlainText);
   label_->setStyleSheet(QStringLiteral(
       "QLabel { background: #fff3c4; color: black; border: 1px solid #806000; padding: 4px; }"));
-  PlaceAt(view_.visualRect(view_.model()->index(cell.row - 1, cell.column - 1)));
   label_->raise();
   label_->show();
-  timer_.start(kShown + told.size() * kShownPerCharacter);
+  Place();
+  FollowScrolling();
+  if (stays == Stays::kForAWhile) timer_.start(kShown + told.size() * kShownPerCharacter);
   Describe(told);
   QAccessibleEvent alert(label_, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
 }
 
-// Below the cell where the window has room, else above it.
-void EntryNote::PlaceAt(const QRect& cell) {
+// The note is a child of the window, over all that scrolls in it.
+void EntryNote::FollowScrolling() {
+  for (QWidget* around = &view_; around != nullptr; around = around->parentWidget()) {
+    auto* area = qobject_cast<QAbstractScrollArea*>(around);
+    if (area == nullptr) continue;
+    for (const QScrollBar* bar : {area->horizontalScrollBar(), area->verticalScrollBar()}) {
+      QObject::connect(bar, &QScrollBar::valueChanged, label_, [this] { Place(); });
+    }
+  }
+}
+
+// Below the cell where the window has room, else above it; nowhere while the cell is scrolled away.
+void EntryNote::Place() {
+  const QRect cell = view_.visualRect(view_.model()->index(cell_.row - 1, cell_.column - 1));
+  label_->setVisible(cell.intersects(view_.viewport()->rect()));
   const QWidget& window = *view_.window();
   const int widest = std::min(kWidest, window.width() - 8);
   if (label_->sizeHint().width() > widest) {

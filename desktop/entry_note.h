@@ -19,15 +19,18 @@ class EntryNote {
   explicit EntryNote(QTableView& view);
   ~EntryNote();
 
+  enum class Stays { kForAWhile, kUntilHidden };
   // Shows the text at the cell; nothing for an empty one.
-  void Show(Cell cell, const std::string& text);
+  void Show(Cell cell, const std::string& text, Stays stays = Stays::kForAWhile);
   void Hide();
 
  private:
-  void PlaceAt(const QRect& cell);
+  void FollowScrolling();
+  void Place();
   void Describe(const QString& text);
 
   QTableView& view_;
+  Cell cell_;               // of the note
   QPointer<QLabel> label_;  // a child of the view's window, which may end first
   QTimer timer_;
 };

@@ -7,9 +7,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
 #include <algorithm>
 #include <optional>
+
+#include "desktop/grid_view.h"
 
 namespace survey {
 namespace {
@@ -102,6 +105,7 @@ FormWidget::FormWidget(Form& form, QWidget* parent)
     column->addStretch(2);
   }
   FitWidth();
+  AddHistoryKeys();
 }
 
 FormWidget::~FormWidget() = default;
@@ -195,6 +199,59 @@ void FormWidget::BeginEntry() {
     const bool only_shows = line != nullptr && line->isReadOnly();
     return !only_shows && (view.widget()->focusPolicy() & Qt::TabFocus) != 0;
   });
+}
+
+// Where ENTER stops on its way through the form.
+bool FormWidget::IsStop(const ControlView& view) const {
+  const QWidget* widget = view.widget();
+  if (!widget->isVisibleTo(this) || !widget->isEnabledTo(this)) return false;
+  const auto* button = dynamic_cast<const Button*>(&view.control());
+  return view.IsOpenForEntry() || (button != nullptr && button->role() == ButtonRole::kSave);
+}
+
+// ENTER goes through the tables of a form one after the other, and from the last one to Save.
+void FormWidget::RunOn(const Control& from, bool back) {
+  std::vector<ControlView*> stops;
+  std::ptrdiff_t at = 0;
+  for (const auto& view : views_) {
+    const bool here = &view->control() == &from;
+    if (here) at = std::ssize(stops);
+    if (here || IsStop(*view)) stops.push_back(view.get());
+  }
+  at += back ? -1 : 1;
+  // Whatever has the focus shows it, as when TAB has brought it there.
+  window()->setAttribute(Qt::WA_KeyboardFocusChange);
+  if (0 <= at && at < std::ssize(stops)) {
+    stops[at]->Begin(back);
+    BringIntoView(*stops[at]->widget());
+  } else if (!back) {
+    focusNextPrevChild(true);
+  }
+}
+
+// ---- Taking back ---------------------------------------------------------------------------
+
+void FormWidget::AddHistoryKeys() {
+  const auto add = [this](const QKeySequence& key, EditHistory::Replay (EditHistory::*replay)()) {
+    auto* shortcut = new QShortcut(key, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, replay] { Attend((form_.history().*replay)()); });
+  };
+  add(Qt::CTRL | Qt::Key_Z, &EditHistory::Undo);
+  add(Qt::CTRL | Qt::Key_Y, &EditHistory::Redo);
+  add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &EditHistory::Redo);
+}
+
+// Shows where something has been taken back or done again.
+void FormWidget::Attend(const EditHistory::Replay& replay) {
+  for (const auto& view : views_) {
+    auto* table = qobject_cast<GridView*>(view->widget());
+    const auto* grid = dynamic_cast<const GridControl*>(&view->control());
+    if (table == nullptr || grid != replay.grid) continue;
+    table->Attend(replay.cell, replay.entry.reason);
+    BringIntoView(*table);
+  }
 }
 
 // ---- Building ------------------------------------------------------------------------------
@@ -291,6 +348,7 @@ QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
   const FormContext context = {
       .parent = parent,
       .commit_entries = [this] { return CommitEntries(); },
+      .run_on = [this](const Control& from, bool back) { RunOn(from, back); },
       .option_group = [this](const std::string& group) { return OptionGroup(group); },
   };
   views_.push_back(MakeControlView(control, context));

@@ -54,6 +54,10 @@ class FormWidget : public QWidget {
   QButtonGroup* OptionGroup(const std::string& group);
   void FitWidth();
   void BeginEntry();
+  bool IsStop(const ControlView& view) const;
+  void RunOn(const Control& from, bool back);
+  void AddHistoryKeys();
+  void Attend(const EditHistory::Replay& replay);
 
   Form& form_;
   QScrollArea* scroll_;

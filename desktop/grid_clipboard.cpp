@@ -6,6 +6,7 @@
 
 #include "desktop/clipboard_block.h"
 #include "desktop/grid_names.h"
+#include "forms/form.h"
 
 namespace survey {
 namespace {
@@ -76,7 +77,7 @@ void PasteCell(GridControl& grid, Cell cell, const QString& value, Refusals& ref
   // Labels and totals that were copied along are no loss where they stand here too.
   const QString pasted = value.simplified();
   if (pasted.isEmpty() || pasted == ShownText(grid, cell).simplified()) return;
-  refusals.Add(cell, value, grid.MayBecome(cell.column, cell.row, value.toStdString()).reason);
+  refusals.Add(cell, value, grid.MayEnter(cell.column, cell.row).reason);
 }
 
 qsizetype FilledCells(const QStringList& row, qsizetype from) {
@@ -169,12 +170,14 @@ void GridClipboard::Copy() const {
 }
 
 void GridClipboard::Paste() {
+  const EditHistory::Block block(grid_.form().history());
   const CellRange cells = SelectedCells();
   const QString refused = PasteCells(grid_, cells, ParseBlock(QApplication::clipboard()->text()));
   note_.Show({cells.column, cells.row}, refused.toStdString());
 }
 
 void GridClipboard::Clear() {
+  const EditHistory::Block block(grid_.form().history());
   ForEachOpenCell(grid_, SelectedCells(), [this](Cell cell) {
     if (!grid_.IsCheckBox(cell.column, cell.row)) {
       grid_.Type(cell.column, cell.row, "");

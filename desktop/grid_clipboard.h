@@ -10,8 +10,8 @@
 namespace survey {
 
 // What is done to the selected cells of a table as a block, as in any spreadsheet: copy, cut,
-// paste and empty. Each cell is one action of the user's, under the limits of its own; what is
-// refused is told in one note.
+// paste and empty. Each cell is one action of the user's, under the limits of its own, and the
+// block one step to take back; what is refused is told in one note.
 class GridClipboard {
  public:
   // All must outlive the clipboard.

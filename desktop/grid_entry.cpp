@@ -1,10 +1,11 @@
 #include "desktop/grid_entry.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QValidator>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/grid_names.h"
@@ -13,26 +14,21 @@
 namespace survey {
 namespace {
 
-// Lets a line hold only what may still become an entry.
-class EntryValidator : public QValidator {
+// Leaves every text as it is, but for capitals where the cell has them, and for the line end that
+// a cell copied elsewhere comes with.
+class EntryText : public QValidator {
  public:
-  EntryValidator(const Grid& grid, Cell cell, QObject* parent)
-      : QValidator(parent), grid_(grid), cell_(cell) {}
+  EntryText(bool capitals, QObject* parent) : QValidator(parent), capitals_(capitals) {}
 
-  const std::string& reason() const { return reason_; }
-
-  State validate(QString& input, int&) const override {
-    if (grid_.Kind(cell_.column, cell_.row).upper_case) input = input.toUpper();
-    const Entry entry = grid_.MayBecome(cell_.column, cell_.row, input.toStdString());
-    if (entry.taken || input.isEmpty()) return Acceptable;
-    reason_ = entry.reason;
-    return Invalid;
+  State validate(QString& input, int& cursor) const override {
+    while (input.endsWith(u'\n') || input.endsWith(u'\r')) input.chop(1);
+    cursor = std::min(cursor, static_cast<int>(input.size()));
+    if (capitals_) input = input.toUpper();
+    return Acceptable;
   }
 
  private:
-  const Grid& grid_;
-  Cell cell_;
-  mutable std::string reason_;
+  bool capitals_;
 };
 
 // Black on white as the open cell itself, under any desktop colours.
@@ -70,25 +66,29 @@ bool EndsEntry(const QKeyEvent& event, bool over) {
   }
 }
 
+bool IsRedo(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+}
+
 }  // namespace
 
 GridEntry::GridEntry(GridControl& grid, QFont font, EntryNote& note, QTableView& view)
-    : QStyledItemDelegate(&view), grid_(grid), font_(std::move(font)), note_(note) {}
+    : QStyledItemDelegate(&view), grid_(grid), font_(std::move(font)), note_(note), view_(view) {}
 
 // ---- What becomes of the text --------------------------------------------------------------
 
 void GridEntry::Begin(bool over) {
   over_ = over;
+  kept_press_ = false;
   if (!over) line_->end(false);
 }
 
-bool GridEntry::RefusesToBegin(const QKeyEvent& key) {
+bool GridEntry::TakesInstead(const QKeyEvent& key) {
   if (IsOpen() || !IsCharacter(key)) return false;
   const Cell cell{grid_.ActiveColumn(), grid_.ActiveRow()};
-  const std::string typed = key.text().toStdString();
   const bool box = grid_.IsCheckBox(cell.column, cell.row);
-  const Entry entry = box ? grid_.Type(cell.column, cell.row, typed)
-                          : grid_.MayBecome(cell.column, cell.row, typed);
+  const Entry entry = box ? grid_.Type(cell.column, cell.row, key.text().toStdString())
+                          : grid_.MayEnter(cell.column, cell.row);
   if (!entry.taken) note_.Show(cell, entry.reason);
   return !entry.taken || box;
 }
@@ -101,9 +101,11 @@ bool GridEntry::Commit() {
     Close();
     return true;
   }
+  view_.scrollTo(view_.model()->index(cell_.row - 1, cell_.column - 1));
   line_->setFocus();
   line_->selectAll();
-  note_.Show(cell_, entry.reason);
+  Show(entry);
+  QApplication::beep();
   return false;
 }
 
@@ -114,8 +116,22 @@ Entry GridEntry::Submit() const {
   return grid_.Type(cell_.column, cell_.row, line_->text().toStdString());
 }
 
+// Says of each text at once whether it can become an entry, but not again at each further key.
+void GridEntry::Judge() const {
+  const std::string text = line_->text().toStdString();
+  const Entry entry = text.empty() ? Entry() : grid_.MayBecome(cell_.column, cell_.row, text);
+  if (entry.taken == line_->refused()) Show(entry);
+}
+
+void GridEntry::Show(const Entry& entry) const {
+  line_->SetRefused(!entry.taken);
+  note_.Show(cell_, entry.reason, EntryNote::Stays::kUntilHidden);
+}
+
 void GridEntry::Close() {
-  if (IsOpen()) Q_EMIT closeEditor(line_, RevertModelCache);
+  if (!IsOpen()) return;
+  note_.Hide();
+  Q_EMIT closeEditor(line_, RevertModelCache);
 }
 
 void GridEntry::Refresh() {
@@ -129,7 +145,6 @@ void GridEntry::Abandon() {
 // ---- What the user does in the line --------------------------------------------------------
 
 bool GridEntry::TakeKey(QKeyEvent& event) {
-  note_.Hide();
   if (EndsEntry(event, over_)) {
     if (Commit()) Q_EMIT Ended(&event);
     return true;
@@ -142,40 +157,56 @@ bool GridEntry::TakeKey(QKeyEvent& event) {
     over_ = false;
     return true;
   }
+  if (IsRedo(event)) {
+    line_->redo();
+    return true;
+  }
   return false;
 }
 
-// The user clicked elsewhere. Typing is kept over another window and a menu. A refused text is
-// given up, but not to a button: that works on what stands in the table, so Commit() has to stop
-// it first.
+// The focus has gone elsewhere. Typing is kept over another window and a menu; a refused text
+// calls the focus back, once it has got where it was going.
 void GridEntry::Leave(Qt::FocusReason reason) {
   if (submitting_ || reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason) {
     return;
   }
-  const Cell cell = cell_;
-  const Entry entry = Submit();
-  if (!entry.taken) {
-    note_.Show(cell, entry.reason);
-    if (qobject_cast<QAbstractButton*>(QApplication::focusWidget()) != nullptr) return;
+  if (Submit().taken) {
+    Close();
+  } else {
+    QMetaObject::invokeMethod(
+        this, [this] { Commit(); }, Qt::QueuedConnection);
   }
-  Close();
+}
+
+// A click elsewhere in the window takes the entry first, and is not to do anything while that is
+// refused. Scrolling is free.
+bool GridEntry::KeepsMouse(QObject* watched, const QEvent& event) {
+  if (event.type() == QEvent::MouseButtonRelease) return std::exchange(kept_press_, false);
+  const bool press =
+      event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+  const auto* widget = qobject_cast<const QWidget*>(watched);
+  if (!press || widget == nullptr || widget == line_ || widget->window() != view_.window() ||
+      qobject_cast<const QScrollBar*>(widget) != nullptr) {
+    return false;
+  }
+  kept_press_ = !Commit();
+  return kept_press_;
 }
 
 // The table decides what keys and leaving mean; Qt's own rules would drop a refused text without
 // a word.
 bool GridEntry::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != line_) return false;
+  if (watched != line_) return IsOpen() && KeepsMouse(watched, *event);
   if (event->type() == QEvent::KeyPress) return TakeKey(static_cast<QKeyEvent&>(*event));
   if (event->type() == QEvent::FocusOut) {
     Leave(static_cast<QFocusEvent&>(*event).reason());
     return false;
   }
-  if (event->type() == QEvent::ShortcutOverride &&
-      static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape) {
-    event->accept();  // else a dialog around the table would close
-    return true;
-  }
-  return false;
+  if (event->type() != QEvent::ShortcutOverride) return false;
+  const auto& key = static_cast<QKeyEvent&>(*event);
+  if (key.key() != Qt::Key_Escape && !IsRedo(key)) return false;
+  event->accept();  // else a dialog around the table would close, or the table do something again
+  return true;
 }
 
 // ---- The line ------------------------------------------------------------------------------
@@ -183,17 +214,16 @@ bool GridEntry::eventFilter(QObject* watched, QEvent* event) {
 QWidget* GridEntry::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                  const QModelIndex& index) const {
   cell_ = {index.column() + 1, index.row() + 1};
-  auto* line = new QLineEdit(parent);
+  auto* line = new EntryLine(parent);
   line->setObjectName(QStringLiteral("cellEditor"));
   line->setAccessibleName(CellName(grid_, cell_));
   line->setFont(font_);
   line->setPalette(EntryColors());
   line->setFrame(false);
   line->setAlignment(SideOf(grid_.AlignmentOf(cell_.column, cell_.row)) | Qt::AlignVCenter);
-  auto* validator = new EntryValidator(grid_, cell_, line);
-  line->setValidator(validator);
-  connect(line, &QLineEdit::inputRejected, this,
-          [this, validator] { note_.Show(cell_, validator->reason()); });
+  line->setValidator(new EntryText(grid_.Kind(cell_.column, cell_.row).upper_case, line));
+  connect(line, &QLineEdit::textChanged, this, &GridEntry::Judge);
+  qApp->installEventFilter(const_cast<GridEntry*>(this));
   line_ = line;
   before_.reset();
   return line;
@@ -208,9 +238,8 @@ void GridEntry::setEditorData(QWidget* editor, const QModelIndex& index) const {
 
 // The cursor leaves the cell.
 void GridEntry::setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const {
-  const Cell cell = cell_;
   const Entry entry = Submit();
-  if (!entry.taken) note_.Show(cell, entry.reason);
+  if (!entry.taken) note_.Show(cell_, entry.reason);
 }
 
 void GridEntry::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
@@ -220,6 +249,7 @@ void GridEntry::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem
 
 void GridEntry::destroyEditor(QWidget* editor, const QModelIndex& index) const {
   line_ = nullptr;
+  qApp->removeEventFilter(const_cast<GridEntry*>(this));
   QStyledItemDelegate::destroyEditor(editor, index);
 }
 

@@ -1,20 +1,22 @@
 #ifndef DESKTOP_GRID_ENTRY_H_
 #define DESKTOP_GRID_ENTRY_H_
 
-#include <QLineEdit>
 #include <QPointer>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <optional>
 
+#include "desktop/entry_line.h"
 #include "desktop/entry_note.h"
 #include "forms/control_kinds.h"
 
 namespace survey {
 
 // What the user types into one cell of a table. As the table's delegate it makes the line that is
-// typed into; each key is put to the grid first, and one that cannot lead to an entry changes
-// nothing. The grid gets the text when the user leaves the cell.
+// typed into, which takes any key: a key left out would make another figure of the rest. From the
+// first key that makes an entry impossible the line has a red frame, and a note says why. The grid
+// gets the text when the user leaves the cell, and takes all of it or nothing; what it refuses
+// keeps the user at the cell until it is put right, or Esc gives back what the cell held.
 class GridEntry : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -27,10 +29,11 @@ class GridEntry : public QStyledItemDelegate {
   // To be called when the view has opened the line. `over`: by a character that takes the place of
   // what the cell held, so that the arrow keys leave the cell.
   void Begin(bool over);
-  // Whether `key` was to begin an entry that the cell does not take; then says why.
-  bool RefusesToBegin(const QKeyEvent& key);
+  // Whether `key` was to begin an entry where none is typed: in a closed cell, of which it then
+  // says why, or a box, which it ticks.
+  bool TakesInstead(const QKeyEvent& key);
   // Makes an entry of what is being typed. False when it is refused: the line then stays open with
-  // all of it selected, and the note says why.
+  // all of it selected, with a sound, and the note says why.
   bool Commit();
   // Gives the typing up.
   void Close();
@@ -60,15 +63,20 @@ class GridEntry : public QStyledItemDelegate {
  private:
   bool TakeKey(QKeyEvent& event);
   void Leave(Qt::FocusReason reason);
+  bool KeepsMouse(QObject* watched, const QEvent& event);
   Entry Submit() const;
+  void Judge() const;
+  void Show(const Entry& entry) const;
 
   GridControl& grid_;
   QFont font_;
   EntryNote& note_;
+  QTableView& view_;
   bool over_ = false;
+  bool kept_press_ = false;  // of the mouse, whose release is kept too
   // Qt makes the line, and has it submitted, in const functions.
   mutable bool submitting_ = false;
-  mutable QPointer<QLineEdit> line_;       // null while nothing is typed; the view owns it
+  mutable QPointer<EntryLine> line_;       // null while nothing is typed; the view owns it
   mutable Cell cell_;                      // that it types into
   mutable std::optional<QString> before_;  // what it held when typing began
 };

@@ -261,6 +261,10 @@ void GridView::hideEvent(QHideEvent* event) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+  if (entry_->IsOpen()) {  // a key that means nothing there means nothing here either
+    event->ignore();
+    return;
+  }
   note_->Hide();
   if (clipboard_->TakeKey(*event) || (list_ ? ListKey(*event) : TableKey(*event))) {
     event->accept();
@@ -279,7 +283,7 @@ bool GridView::TableKey(const QKeyEvent& event) {
     grid_.Tick(cell.column, cell.row);
     return true;
   }
-  return entry_->RefusesToBegin(event);
+  return entry_->TakesInstead(event);
 }
 
 bool GridView::ListKey(const QKeyEvent& event) {
@@ -312,7 +316,24 @@ void GridView::GoOn(QKeyEvent* key) {
 
 void GridView::Step(bool back) {
   const auto to = back ? grid_.PreviousOpenCell(Active()) : grid_.NextOpenCell(Active());
+  if (to) {
+    setCurrentIndex(model_->IndexOf(*to));
+  } else {
+    Q_EMIT PassedEnd(back);
+  }
+}
+
+void GridView::Begin(bool at_end) {
+  setFocus(Qt::TabFocusReason);
+  const Cell behind{grid_.MaxColumns() + 1, grid_.MaxRows()};
+  const auto to = at_end ? grid_.PreviousOpenCell(behind) : grid_.NextOpenCell({0, 0});
   if (to) setCurrentIndex(model_->IndexOf(*to));
+}
+
+void GridView::Attend(Cell cell, const std::string& word) {
+  setFocus(Qt::OtherFocusReason);
+  scrollTo(model_->IndexOf(cell));
+  note_->Show(cell, word);
 }
 
 // What a click does in a list, from the keyboard.

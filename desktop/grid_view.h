@@ -39,9 +39,18 @@ class GridView : public QTableView {
   // when it is refused: the typing then stays open and says why.
   bool CommitEntry();
 
+  // Brings the focus to the first cell to be filled in, or to the last one.
+  void Begin(bool at_end);
+  // Brings the focus to a cell that code has moved the cursor to, with a word about it, or "".
+  void Attend(Cell cell, const std::string& word);
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
   void keyboardSearch(const QString& search) override;
+
+ Q_SIGNALS:
+  // ENTER has gone past the last cell to be filled in, or Shift+ENTER past the first.
+  void PassedEnd(bool back);
 
  protected:
   void changeEvent(QEvent* event) override;

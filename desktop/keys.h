@@ -11,6 +11,9 @@ namespace survey {
 // Either Enter key: that of the main block or that of the keypad.
 bool IsEnter(const QKeyEvent& event);
 
+// The key does nothing by itself but to change what others do.
+bool IsModifier(const QKeyEvent& event);
+
 // The key types a character, and is no command.
 bool IsCharacter(const QKeyEvent& event);
 

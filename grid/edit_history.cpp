@@ -74,8 +74,7 @@ EditHistory::Replay EditHistory::Play(Step step) {
 
 Entry EditHistory::MayPlay(const Step& step) {
   for (const auto& [grid, cell, before, after] : step) {
-    const Entry open = grid->MayBecome(cell.column, cell.row, grid->GetText(cell.column, cell.row));
-    if (!open.taken) return open;
+    if (Entry entry = grid->MayEnter(cell.column, cell.row); !entry.taken) return entry;
   }
   return {};
 }

@@ -185,8 +185,13 @@ std::optional<Cell> Grid::PreviousOpenCell(Cell from) const {
 
 // ---- The user's side -----------------------------------------------------------------------
 
+Entry Grid::MayEnter(int column, int row) const {
+  const std::string_view why = WhyClosed(column, row);
+  return {why.empty(), std::string(why)};
+}
+
 Entry Grid::MayBecome(int column, int row, std::string_view text) const {
-  if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
+  if (Entry entry = MayEnter(column, row); !entry.taken) return entry;
   const CellKind& kind = Kind(column, row);
   if (text == GetText(column, row) || MayBecomeEntry(kind, text)) return {};
   return {false, RequestOf(kind)};
@@ -210,8 +215,7 @@ Entry Grid::Tick(int column, int row) {
 
 Entry Grid::Restore(int column, int row, std::string_view text) {
   return EntryByUser(IsCheckBox(column, row) ? Action::kTick : Action::kType, [&] {
-    if (const auto why = WhyClosed(column, row); !why.empty())
-      return Entry{false, std::string(why)};
+    if (Entry entry = MayEnter(column, row); !entry.taken) return entry;
     return Put(column, row, std::string(text));
   });
 }
@@ -318,7 +322,7 @@ std::string_view Grid::WhyClosed(int column, int row) const {
 }
 
 Entry Grid::TakeText(int column, int row, std::string_view text) {
-  if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
+  if (Entry entry = MayEnter(column, row); !entry.taken) return entry;
   // Going through a cell without touching it is no entry, even where code or an older file left
   // something that the limits would not let in.
   if (text == GetText(column, row)) return {};
@@ -329,7 +333,7 @@ Entry Grid::TakeText(int column, int row, std::string_view text) {
 }
 
 Entry Grid::TakeTick(int column, int row) {
-  if (const auto why = WhyClosed(column, row); !why.empty()) return {false, std::string(why)};
+  if (Entry entry = MayEnter(column, row); !entry.taken) return entry;
   if (!IsCheckBox(column, row)) {
     return {false, "This cell is not a box to tick."};
   }

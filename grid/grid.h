@@ -96,6 +96,8 @@ class Grid {
   std::uint64_t revision() const { return revision_; }
 
   // ---- The user's side ---------------------------------------------------------------------
+  // Refused, with the reason, where the cell takes no entry at all.
+  Entry MayEnter(int column, int row) const;
   // Whether `text`, half typed, may still become an entry of that cell.
   Entry MayBecome(int column, int row, std::string_view text) const;
   // Types a text into a cell and leaves the cell. An entry outside the limits is refused, and

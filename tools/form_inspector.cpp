@@ -217,6 +217,7 @@ void FormInspector::FillTables() {
     user_.Focus();
     Require(widget.hasFocus(), widget, "takes no focus");
     FillByEnter(*grid, widget);
+    widget.setFocus();  // the last ENTER has run on
     user_.Press(Qt::Key_Tab);
     Require(!widget.hasFocus(), widget, "is not left by TAB");
     user_.Press(Qt::Key_Backtab, Qt::ShiftModifier);
