@@ -1,8 +1,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFontDatabase>
 #include <QMessageBox>
 #include <exception>
+#include <iostream>
 #include <stdexcept>
 
 #include "desktop/desktop.h"
@@ -53,6 +55,12 @@ int Run() {
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
+  if (QFontDatabase::families().isEmpty()) {
+    std::cerr << survey::kProgramName
+              << ": this computer has no fonts, so that no text can be "
+                 "shown. Install one, for example the package fonts-dejavu, and start again.\n";
+    return 1;
+  }
   survey::SetUpApplication();
   // The menu entry's name, by which a desktop finds the icon of our windows.
   QGuiApplication::setDesktopFileName("corvale-survey");

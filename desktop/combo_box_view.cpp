@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
+#include <optional>
 
 #include "desktop/keys.h"
 #include "desktop/list_box_view.h"
@@ -70,10 +71,13 @@ class ComboBoxWidget : public QComboBox {
     OpenList();
   }
 
+  // A choice has the line shown anew, for Qt has written into it.
+  void ForgetLine() { shown_.reset(); }
+
   // What the user has marked meanwhile stays marked unless the control changed something.
   void RefreshText() {
     const Line line{QString::fromStdString(box_.Text()), box_.SelectionStart, box_.SelectionLength};
-    if (line != shown_ || lineEdit()->text() != line.text) {
+    if (shown_ != line || lineEdit()->text() != line.text) {
       shown_ = line;
       ShowLine();
     }
@@ -102,7 +106,12 @@ class ComboBoxWidget : public QComboBox {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == view() && event->type() == QEvent::KeyPress) {
       auto& key = static_cast<QKeyEvent&>(*event);
-      if (TakesCharacters() ? TakeKey(key) : IsCharacter(key)) return true;
+      if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) {
+        LeaveList(key.key() == Qt::Key_Tab);
+        return true;
+      }
+      // Without type-ahead of its own the list finds what begins with the characters typed.
+      if (TakesCharacters() && TakeKey(key)) return true;
     }
     return QComboBox::eventFilter(watched, event);
   }
@@ -138,9 +147,20 @@ class ComboBoxWidget : public QComboBox {
     bool operator==(const Line&) const = default;
   };
 
+  // The cursor is where the selection begins, so that a long text shows its beginning.
   void ShowLine() {
-    lineEdit()->setText(shown_.text);
-    lineEdit()->setSelection(shown_.selection_start, shown_.selection_length);
+    if (!shown_) return;
+    lineEdit()->setText(shown_->text);
+    lineEdit()->setSelection(shown_->selection_start + shown_->selection_length,
+                             -shown_->selection_length);
+  }
+
+  // As ENTER does, and then goes on to the next control unless the choice led elsewhere.
+  void LeaveList(bool forward) {
+    const QModelIndex marked = view()->currentIndex();
+    hidePopup();
+    if (marked.isValid() && marked.row() != box_.ListIndex()) Q_EMIT activated(marked.row());
+    if (hasFocus()) focusNextPrevChild(forward);
   }
 
   bool TakeKey(QKeyEvent& event) {
@@ -181,7 +201,7 @@ class ComboBoxWidget : public QComboBox {
   }
 
   ComboBox& box_;
-  Line shown_;
+  std::optional<Line> shown_;
 };
 
 ComboBoxView::ComboBoxView(ComboBox& box, QWidget* parent)
@@ -191,6 +211,7 @@ ComboBoxView::ComboBoxView(ComboBox& box, QWidget* parent)
       model_(*new QStringListModel(&widget_)) {
   widget_.setModel(&model_);
   QObject::connect(&widget_, &QComboBox::activated, &widget_, [this](int index) {
+    widget_.ForgetLine();
     box_.Choose(index);
     Refresh();
   });

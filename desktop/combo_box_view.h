@@ -10,9 +10,9 @@ namespace survey {
 
 class ComboBoxWidget;
 
-// A drop-down list. A box without on_key_press can only be chosen from: letters do nothing,
-// arrows and the list choose. One with it hands each character to the control and shows the text
-// and the selection that the control then has.
+// A drop-down list. A box without on_key_press can only be chosen from: letters do nothing in the
+// box and find entries in its open list, arrows and the list choose. One with it hands each
+// character to the control and shows the text and the selection that the control then has.
 class ComboBoxView : public ControlView {
  public:
   ComboBoxView(ComboBox& box, QWidget* parent);

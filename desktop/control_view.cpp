@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -140,6 +141,10 @@ class ButtonWidget : public QPushButton {
     }
   }
 
+  // The second press of a double click is none of its own: the first may already have brought
+  // another form, whose button now stands here.
+  void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
+
   // A key of the form presses its button at once and leaves the cursor where it is.
   bool event(QEvent* event) override {
     if (event->type() != QEvent::Shortcut) return QPushButton::event(event);
@@ -248,7 +253,8 @@ class OptionButtonView : public ControlView {
 
 class TextBoxWidget : public QLineEdit {
  public:
-  TextBoxWidget(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {}
+  TextBoxWidget(TextBox& box, const FormContext& context)
+      : QLineEdit(context.parent), box_(box), commit_entries_(context.commit_entries) {}
 
   QSize minimumSizeHint() const override {
     const int text = kTextBoxCharacters * fontMetrics().horizontalAdvance(u'0');
@@ -259,22 +265,30 @@ class TextBoxWidget : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override {
     box_.KeyDown();
     if (IsEnter(*event)) {
-      focusNextChild();
+      GoOn();
     } else if (event->key() != Qt::Key_Backspace || TakesBackspace()) {
       QLineEdit::keyPressEvent(event);
     }
   }
 
  private:
+  void GoOn() {
+    if (box_.Default == nullptr) {
+      focusNextChild();
+    } else if (commit_entries_()) {
+      box_.Default->Click();
+    }
+  }
   bool TakesBackspace() const { return !box_.takes_key || box_.takes_key(U'\b'); }
 
   TextBox& box_;
+  std::function<bool()> commit_entries_;
 };
 
 class TextBoxView : public ControlView {
  public:
-  TextBoxView(TextBox& box, QWidget* parent)
-      : ControlView(box, new TextBoxWidget(box, parent)),
+  TextBoxView(TextBox& box, const FormContext& context)
+      : ControlView(box, new TextBoxWidget(box, context)),
         box_(box),
         widget_(static_cast<QLineEdit&>(*widget())) {
     widget_.setAlignment(box.Centered ? Qt::AlignCenter : Qt::AlignLeft);
@@ -360,7 +374,7 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, const FormContext
     return std::make_unique<OptionButtonView>(*option, context);
   }
   if (auto* box = dynamic_cast<TextBox*>(&control)) {
-    return std::make_unique<TextBoxView>(*box, context.parent);
+    return std::make_unique<TextBoxView>(*box, context);
   }
   if (auto* list = dynamic_cast<ListBox*>(&control)) {
     return std::make_unique<ListBoxView>(*list, context.parent);

@@ -56,13 +56,13 @@ class FormDialog : public QDialog {
     contents_->Refresh();
   }
 
-  // The close box, and Esc.
-  void reject() override { form().host().CloseBox(form()); }
+  // Esc: the key of the form's Cancel, nothing where it has none.
+  void reject() override {}
 
  protected:
   void closeEvent(QCloseEvent* event) override {
     event->ignore();
-    reject();
+    form().host().CloseBox(form());
   }
 
  private:

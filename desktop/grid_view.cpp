@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desktop/entry_note.h"
 #include "desktop/grid_bands.h"
@@ -363,10 +364,17 @@ void GridView::mousePressEvent(QMouseEvent* event) {
   QTableView::mousePressEvent(event);
 }
 
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+  const Cell cell = GridModel::CellAt(indexAt(event->pos()));
+  goes_on_ = list_ && !grid_.GetText(1, cell.row).empty();
+  QTableView::mouseDoubleClickEvent(event);
+}
+
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
   released_at_ = event->pos();
   QTableView::mouseReleaseEvent(event);
   pressing_ = false;
+  if (std::exchange(goes_on_, false) && grid_.Default != nullptr) grid_.Default->Click();
 }
 
 void GridView::ClickCell(const QModelIndex& index) {
@@ -377,6 +385,14 @@ void GridView::ClickCell(const QModelIndex& index) {
           .adjusted(-kReachAroundBox, -kReachAroundBox, kReachAroundBox, kReachAroundBox);
   if (grid_.IsCheckBox(cell.column, cell.row) && box.contains(released_at_))
     grid_.Tick(cell.column, cell.row);
+  TickBeside(cell);
+}
+
+// A click on the text to the left of a box ticks it.
+void GridView::TickBeside(Cell label) {
+  const int box = grid_.SpanOf(label.column, label.row).last_column + 1;
+  const bool is_label = grid_.Kind(label.column, label.row).type == CellKind::Type::kLabel;
+  if (is_label && grid_.IsCheckBox(box, label.row)) grid_.Tick(box, label.row);
 }
 
 // A click on what stays in view: the head of a list, or a label of a row.
@@ -387,6 +403,7 @@ void GridView::ClickPane(Pane pane, QPoint place) {
   const bool head = cell.row == 0;
   if (cell.column > 0 && (head || cell.row > sheet_->head_rows())) {
     grid_.Click(cell.column, cell.row);
+    TickBeside(cell);
   }
 }
 

@@ -58,6 +58,7 @@ class GridView : public QTableView {
   bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -90,6 +91,7 @@ class GridView : public QTableView {
   void Choose();
   void ClickPane(Pane pane, QPoint place);
   void ClickCell(const QModelIndex& index);
+  void TickBeside(Cell label);
   Cell Active() const { return {grid_.ActiveColumn(), grid_.ActiveRow()}; }
 
   GridControl& grid_;
@@ -106,6 +108,7 @@ class GridView : public QTableView {
   std::uint64_t shown_ = 0;  // revision of the grid
   bool following_ = false;   // code moves the cursor, not the user
   bool pressing_ = false;    // the mouse does
+  bool goes_on_ = false;     // the mouse is down in a double click on an entry of a list
   QPoint released_at_;
 };
 

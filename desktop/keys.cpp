@@ -37,6 +37,8 @@ QKeySequence KeyOf(ButtonRole role) {
       return Qt::CTRL | Qt::Key_PageUp;
     case ButtonRole::kMenu:
       return Qt::CTRL | Qt::Key_M;
+    case ButtonRole::kCancel:
+      return Qt::Key_Escape;
     case ButtonRole::kNone:
       break;
   }

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <utility>
 
 namespace survey {
 namespace {
@@ -26,12 +27,18 @@ class ListWidget : public QListView {
                                                           : command;
   }
 
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    goes_on_ = indexAt(event->pos()).isValid();
+    QListView::mouseDoubleClickEvent(event);
+  }
+
   // A press and a drag mark an entry; the mouse chooses where it is let go.
   void mouseReleaseEvent(QMouseEvent* event) override {
     QListView::mouseReleaseEvent(event);
     const int row = currentIndex().row();
     if (!selectionModel()->hasSelection()) return;
     if (row != list_.ListIndex() || indexAt(event->pos()).isValid()) list_.Choose(row);
+    if (std::exchange(goes_on_, false) && list_.Default != nullptr) list_.Default->Click();
   }
 
   // Moving through the list by key chooses, as clicking does.
@@ -47,6 +54,7 @@ class ListWidget : public QListView {
 
  private:
   ListBox& list_;
+  bool goes_on_ = false;  // the mouse is down in a double click on an entry
 };
 
 }  // namespace

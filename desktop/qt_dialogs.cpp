@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
-#include <QStandardPaths>
 
 #include "desktop/pictures.h"
 #include "forms/message_boxes.h"
@@ -37,6 +36,11 @@ QString NameFilter(const std::string& filter) {
 void ShowAsItIs(QLabel& label) {
   label.setTextFormat(Qt::PlainText);
   label.setBuddy(nullptr);
+}
+
+// "mdb" of the filter above: what a typed name without an ending gets.
+QString Suffix(const std::string& filter) {
+  return QString::fromStdString(filter).section("|*.", 1, 1);
 }
 
 class QtProgress : public Progress {
@@ -95,12 +99,13 @@ int QtDialogs::ShowMessage(const MessageBox& box) {
   return message.exec() == QMessageBox::Yes ? kAnswerYes : kAnswerNo;
 }
 
-std::string QtDialogs::OpenFile(const std::string& filter) {
-  QFileDialog dialog(window_in_front_(), QObject::tr("Open"),
-                     QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                     NameFilter(filter));
+std::string QtDialogs::OpenFile(const std::string& filter, const std::filesystem::path& folder) {
+  QFileDialog dialog(window_in_front_(), QObject::tr("Open"), {}, NameFilter(filter));
   dialog.setObjectName("OpenFileDialog");
-  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setDirectory(QDir(folder));
+  // What is wrong with a file, or that there is none, the program says in its own words.
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setDefaultSuffix(Suffix(filter));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
 }

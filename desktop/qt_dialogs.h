@@ -16,7 +16,7 @@ class QtDialogs : public Dialogs {
   explicit QtDialogs(std::function<QWidget*()> window_in_front);
 
   int ShowMessage(const MessageBox& box) override;
-  std::string OpenFile(const std::string& filter) override;
+  std::string OpenFile(const std::string& filter, const std::filesystem::path& folder) override;
   std::string InputBox(const std::string& prompt, const std::string& title) override;
   std::unique_ptr<Progress> BeginProgress(const std::string& title) override;
 

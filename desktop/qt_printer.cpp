@@ -2,15 +2,16 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPrintDialog>
+#include <QRegularExpression>
 #include <cmath>
 #include <utility>
 
 #include "base/run_time_error.h"
 #include "desktop/grid_pages.h"
-#include "forms/message_boxes.h"
 
 namespace survey {
 namespace {
@@ -28,6 +29,19 @@ QPageLayout::Orientation ToQt(Orientation orientation) {
   return orientation == Orientation::kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
+// An ID number, which is a part of some names, may hold anything.
+QString FileNameOf(QString job) {
+  static const QRegularExpression not_in_names(R"([\\/:*?"<>|])");
+  return job.replace(not_in_names, "-");
+}
+
+// The dialog takes the document's name without its ending, and lets a file chosen before stand.
+void ProposeFile(QPrinter& printer, const QString& name) {
+  printer.setDocName(name);
+  const QFileInfo before(printer.outputFileName());
+  if (!before.fileName().isEmpty()) printer.setOutputFileName(before.dir().filePath(name));
+}
+
 }  // namespace
 
 bool AskForPrinter(QPrinter& printer) {
@@ -39,7 +53,6 @@ bool AskForPrinter(QPrinter& printer) {
 QtPrinter::QtPrinter(PrinterChoice choose)
     : choose_(std::move(choose)), printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
   printer_->setPageSize(QPageSize(QPageSize::A4));
-  printer_->setDocName(kProgramName);
 }
 
 QtPrinter::~QtPrinter() { Finish(); }
@@ -49,10 +62,13 @@ void QtPrinter::Finish() {
   LeavePage();
 }
 
-void QtPrinter::ShowPrinter() {
+void QtPrinter::ShowPrinter(const std::string& job) {
   Finish();
   printer_->setPageOrientation(ToQt(orientation_));
+  const QString name = FileNameOf(QString::fromStdString(job));
+  ProposeFile(*printer_, name + ".pdf");
   if (!choose_(*printer_)) throw CancelWasSelected();
+  printer_->setDocName(name);
   orientation_ = printer_->pageLayout().orientation() == QPageLayout::Landscape
                      ? Orientation::kLandscape
                      : Orientation::kPortrait;

@@ -28,7 +28,7 @@ class QtPrinter : public Printer {
   // Completes what has been printed. To be called when the user's action has ended.
   void Finish();
 
-  void ShowPrinter() override;
+  void ShowPrinter(const std::string& job) override;
   void SetFont(std::string_view name, double points, bool bold) override;
   void SetFontBold(bool bold) override { font_.setBold(bold); }
   void SetCurrentX(double x) override { x_ = x; }

@@ -6,6 +6,7 @@
 
 namespace survey {
 
+class Button;
 class Form;
 
 // Index of a control that is no element of a control array.
@@ -36,6 +37,9 @@ class Control {
   std::string ToolTip;
   // What a screen reader says where the control's own text does not do.
   std::string AccessibleName;
+  // The button that goes on with what is entered or chosen here: ENTER in a text box presses it, a
+  // double click on an entry of a list does. Null: none.
+  Button* Default = nullptr;
 
  protected:
   bool TakesInput() const;

@@ -221,7 +221,11 @@ void ComboBox::DropDown() {
 
 void ComboBox::Choose(int index) {
   if (!TakesInput() || index < 0 || index >= static_cast<int>(items_.size())) return;
-  Dispatch("Click", [&] { SetListIndex(index); });
+  Dispatch("Click", [&] {
+    SelectionStart = 0;
+    SelectionLength = CharacterCount(items_[index].text);
+    SetListIndex(index);
+  });
 }
 
 void ComboBox::KeyPress(char32_t character) {

@@ -39,7 +39,7 @@ class Frame : public Control {
 };
 
 // What a button is for, where forms have the like of it. No form has two of one role.
-enum class ButtonRole { kNone, kSave, kPrint, kNext, kPrevious, kMenu };
+enum class ButtonRole { kNone, kSave, kPrint, kNext, kPrevious, kMenu, kCancel };
 
 class Button : public Control {
  public:
@@ -185,7 +185,7 @@ class ComboBox : public Control {
   bool DroppedDown = false;  // code asks to open the list; the view does, and sets it back
   std::uint64_t revision() const { return revision_; }
 
-  // The user's side.
+  // The user's side. A choice selects the whole text, so that what is typed then begins anew.
   void DropDown();
   void Choose(int index);
   void KeyPress(char32_t character);

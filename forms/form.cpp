@@ -51,6 +51,18 @@ void Form::FollowLink(const Link& link, const Button* cmdSave) {
   if (!unload_first && link.leaving != Leaving::kStays) host_.Unload(*this);
 }
 
+void Form::SetFocus(GridControl& grid, Cell cell) {
+  grid.SetActiveCell(cell.column, cell.row);
+  SetFocus(grid);
+}
+
+void Form::ChoosePrinter(const std::string& what, const std::string& staff_id) {
+  const std::u8string database = ToPath(survey().DatabasePath).stem().u8string();
+  std::string job = std::string(database.begin(), database.end()) + " " + what;
+  if (!staff_id.empty()) job += " " + staff_id;
+  host_.platform().printer.ShowPrinter(job);
+}
+
 bool Form::Trap(const ErrorName& name, const std::function<void()>& body, Commit commit) {
   return Try(body, commit, [&](const RunTimeError& failure) {
     if (host_.IsOffScreenWork()) throw RunTimeError(failure);

@@ -100,6 +100,12 @@ class Form {
   // that a guarded link asks about.
   void FollowLink(const Link& link, const Button* cmdSave = nullptr);
   void SetFocus(Control& control) { focus_request_ = &control; }
+  // Gives a table the focus, with its cursor in the cell that the user has been asked to answer.
+  void SetFocus(GridControl& grid, Cell cell);
+  // Lets the user choose the printer for `what`, "table 2.5". The job, and a file that it becomes,
+  // is called so behind the name of the database; the answers of one staff member have the ID
+  // number besides. Throws CancelWasSelected().
+  void ChoosePrinter(const std::string& what, const std::string& staff_id = {});
 
  private:
   friend class Control;

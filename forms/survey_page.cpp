@@ -1,6 +1,15 @@
 #include "forms/survey_page.h"
 
 namespace survey {
+namespace {
+
+// "table 2.5", "tables 3.1 - 3.4".
+std::string TablesOf(const PageRow& row) {
+  const bool several = row.tables.find(' ') != std::string_view::npos;
+  return (several ? "tables " : "table ") + std::string(row.tables);
+}
+
+}  // namespace
 
 SurveyPage::SurveyPage(FormHost& host, const PageRow& row, const PageButtons& buttons)
     : Form(host, std::string(row.name), std::string(row.caption)),
@@ -16,7 +25,7 @@ SurveyPage::SurveyPage(FormHost& host, const PageRow& row, const PageButtons& bu
   cmdSave.on_click = [this] { Save(); };
   cmdPrintPage.on_click = [this] {
     Trap(row_.errors.print, [this] {
-      this->host().platform().printer.ShowPrinter();
+      ChoosePrinter(TablesOf(row_), StaffId());
       Printpage();
     });
   };

@@ -279,7 +279,10 @@ void Grid::EndHistory() {
 }
 
 void Grid::MarkTotalsOver(int position) {
-  for (const int total : index_.TotalsOver(position)) cells_[total].stale = true;
+  for (const int total : index_.TotalsOver(position)) {
+    cells_[total].stale = true;
+    cells_[total].note = {};  // it was about the figures before
+  }
 }
 
 void Grid::Compute(const DesignIndex::TotalCell& total) const {

@@ -58,6 +58,7 @@ class Grid {
 
   void SetLock(int column, int row, bool locked);
   void SetBackColor(int column, int row, Color color);
+  // A note on a total goes when a cell that goes into the total is written.
   void SetNote(int column, int row, CellNote note);
   void SetActiveCell(int column, int row);
   // Empties a block; formats, locks and colours remain, and totals show their sums again. The part

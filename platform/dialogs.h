@@ -1,6 +1,7 @@
 #ifndef PLATFORM_DIALOGS_H_
 #define PLATFORM_DIALOGS_H_
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -49,9 +50,9 @@ class Dialogs {
   // Answers with the code of the button; closing the box counts as No where there is one.
   virtual int ShowMessage(const MessageBox& box) = 0;
 
-  // Lets the user pick an existing file; "" after Cancel. `filter` reads
-  // "Database Files (*.mdb)|*.mdb".
-  virtual std::string OpenFile(const std::string& filter) = 0;
+  // Lets the user pick a file, or type the name of one, which need not exist; "" after Cancel.
+  // Begins in `folder`. `filter` reads "Database Files (*.mdb)|*.mdb".
+  virtual std::string OpenFile(const std::string& filter, const std::filesystem::path& folder) = 0;
 
   // Asks for a line of text; "" after Cancel. An empty title stands for the program's name.
   virtual std::string InputBox(const std::string& prompt, const std::string& title) = 0;

@@ -17,8 +17,9 @@ class Printer {
  public:
   virtual ~Printer() = default;
 
-  // Lets the user choose a printer, or a file to print to. Throws CancelWasSelected().
-  virtual void ShowPrinter() = 0;
+  // Lets the user choose a printer, or a file to print to, for a job of this name. Throws
+  // CancelWasSelected().
+  virtual void ShowPrinter(const std::string& job) = 0;
 
   virtual void SetFont(std::string_view name, double points, bool bold) = 0;
   virtual void SetFontBold(bool bold) = 0;

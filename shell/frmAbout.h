@@ -15,7 +15,7 @@ class FrmAbout : public Form {
   Label lblVersion{*this, "lblVersion", "Version 14 October 2012"};
   Label lblDisclaimerTitle{*this, "lblDisclaimerTitle", "Disclaimer:"};
   Label lblDisclaimer{*this, "lblDisclaimer", "Disclaimer Text"};
-  Button cmdOK{*this, "cmdOK", "OK"};
+  Button cmdOK{*this, "cmdOK", "OK", ButtonRole::kCancel};
   Button cmdSysInfo{*this, "cmdSysInfo", "&System Info..."};
 
  protected:

@@ -262,7 +262,7 @@ void FrmMainMenu::OpenForSite(const std::string& target) {
 // ---- The printed survey ----------------------------------------------------------------------
 
 void FrmMainMenu::PrintSurvey() {
-  host().platform().printer.ShowPrinter();
+  ChoosePrinter("campus survey");
   survey().CampusEmisNumber = LeadingNumber(txtCamEmis.Text);
   survey().CollegeEmisNumber = LeadingNumber(txtColEmis.Text);
   survey().SurveyYear = kPrintedYear;

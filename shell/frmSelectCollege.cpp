@@ -27,6 +27,7 @@ const GridDesign& SiteListDesign() {
 FrmSelectCollege::FrmSelectCollege(FormHost& host)
     : Form(host, "frmSelectCollege", "Select college or campus to add data"),
       gridcollege(*this, "gridcollege", SiteListDesign()) {
+  gridcollege.Default = &cmdContinue;
   cmdContinue.on_click = [this] { Continue(); };
   cmdAdd.on_click = [this] {
     this->host().Get("frmMainMenu").Property("EditMode") = "Add";

@@ -1,5 +1,7 @@
 #include "shell/frmSelectDatabase.h"
 
+#include <system_error>
+
 #include "base/text.h"
 #include "shell/chosen_database.h"
 #include "store/recordset.h"
@@ -29,6 +31,7 @@ FrmSelectDatabase::FrmSelectDatabase(FormHost& host)
     Ready();
     survey().ChosenDatabaseName = lstFiles.SelectedText();
   };
+  lstFiles.Default = &cmdContinue;
   cmdBrowse.on_click = [this] { Browse(); };
   cmdContinue.on_click = [this] { Trap(kContinueError, [this] { Continue(); }); };
   cmdAbout.on_click = [this] { this->host().ShowModal("frmAbout"); };
@@ -95,6 +98,13 @@ bool FrmSelectDatabase::IsCorrectDatabase() {
   }
 }
 
+// New databases are copies of it; one that was filled in would go out to everybody.
+bool FrmSelectDatabase::IsTemplate(const std::string& path) const {
+  std::error_code error;
+  return std::filesystem::equivalent(
+      ToPath(path), host().platform().program_folder.Path() / kTemplateFile, error);
+}
+
 void FrmSelectDatabase::Ready() {
   cmdContinue.BackColor = kYellow;
   SetFocus(cmdContinue);
@@ -134,10 +144,11 @@ void FrmSelectDatabase::ChooseNetwork() {
 }
 
 void FrmSelectDatabase::Browse() {
-  const std::string path = host().platform().dialogs.OpenFile("Database Files (*.mdb)|*.mdb");
+  const std::string path =
+      host().platform().dialogs.OpenFile("Database Files (*.mdb)|*.mdb", data_folder_.path());
   survey().DatabasePath = path;
   txtpath.Text = path;
-  if (path.empty() || IsCorrectDatabase()) return;
+  if (path.empty() || (!IsTemplate(path) && IsCorrectDatabase())) return;
   boxes().UserMessage("The database you have selected is not the correct database.");
   txtpath.Text.clear();
   survey().DatabasePath.clear();

@@ -47,6 +47,7 @@ class FrmSelectDatabase : public Form {
   void ClearDatabaseList();
   bool IsDatabaseListed();
   bool IsCorrectDatabase();
+  bool IsTemplate(const std::string& path) const;
 
   void ChooseExisting();
   void ChooseNew();

@@ -86,7 +86,7 @@ void DesktopDriver::AnswerDialog() {
     script(*dialog);
   } catch (const std::exception& mismatch) {
     if (failure_.empty()) failure_ = mismatch.what();
-    dialog->reject();
+    dialog->close();
   }
   answered_ = before;
 }

@@ -270,6 +270,7 @@ void FrmHostels::SaveHostel() {
   const std::string& name = gridGeneralInfo.GetText(kName.column, kName.row);
   if (name.empty()) {
     boxes().UserMessage("You must enter the name of the hostel to save data");
+    SetFocus(gridGeneralInfo, kName);
     return;
   }
   Recordset stored;

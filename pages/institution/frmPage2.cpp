@@ -258,17 +258,21 @@ void FrmPage2::GetPage() {
 
 bool FrmPage2::MaySave() {
   const auto text = [this](Cell cell) { return gridGeneralInfo.GetText(cell.column, cell.row); };
-  if (text(kStreetName).empty() || text(kTown).empty()) {
-    boxes().UserMessage("Please complete the physical address of the college to continue");
+  const auto ask_for = [this](Cell cell, const char* request) {
+    boxes().UserMessage(request);
+    SetFocus(gridGeneralInfo, cell);
     return false;
+  };
+  for (const Cell cell : {kStreetName, kTown}) {
+    if (!text(cell).empty()) continue;
+    return ask_for(cell, "Please complete the physical address of the college to continue");
   }
   if (text(kManager).empty()) {
-    boxes().UserMessage("Please complete the name of the principal or campus manager to continue");
-    return false;
+    return ask_for(kManager,
+                   "Please complete the name of the principal or campus manager to continue");
   }
   if (LeadingNumber(text(kHasMis)) == 0) {
-    boxes().UserMessage("Please complete question 1.14 to continue");
-    return false;
+    return ask_for(kHasMis, "Please complete question 1.14 to continue");
   }
   return true;
 }

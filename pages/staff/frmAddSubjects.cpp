@@ -70,6 +70,7 @@ FrmAddSubjects::FrmAddSubjects(FormHost& host)
   gridSubjectList.on_click = [this](int column, int row) {
     if (row == 0) SortBy(column);
   };
+  txtSearch.Default = &cmdSubjects;
   cmdSubjects.on_click = [this] { Search(); };
   cmdSaveSubject.on_click = [this] { SaveSubject(); };
   cmdDone.on_click = [this] { this->host().Unload(*this); };

@@ -59,7 +59,7 @@ class FrmAddSubjects : public Form {
   Frame Frame3{*this, "Frame3", "Subject List"};
   GridControl gridSubjectList;
   Label Label5{*this, "Label5", "Click on Column Header to sort the list"};
-  Button cmdDone{*this, "cmdDone", "Done"};
+  Button cmdDone{*this, "cmdDone", "Done", ButtonRole::kCancel};
 
  protected:
   void Form_Load() override;

@@ -1,5 +1,8 @@
 #include "pages/staff/frmEducatorData.h"
 
+#include <optional>
+#include <tuple>
+
 #include "base/text.h"
 #include "grid/cell_entry.h"
 #include "records/record_cells.h"
@@ -306,39 +309,43 @@ bool FrmEducatorData::IsSouthAfrican() const {
 
 bool FrmEducatorData::IsComplete(const std::string& id) {
   const auto text = [this](Cell cell) -> const std::string& { return TextOf(gridgeneral, cell); };
-  if (id.empty()) {
-    boxes().UserMessage("You must complete the ID number or Passport number to save");
+  const auto ask_for = [this](Cell cell, const char* request) {
+    boxes().UserMessage(request);
+    SetFocus(gridgeneral, cell);
     return false;
+  };
+  if (id.empty()) {
+    return ask_for(IsSouthAfrican() ? kIdNumber : kPassportNumber,
+                   "You must complete the ID number or Passport number to save");
   }
   if (!CheckHighlightedFields()) {
     boxes().PlainBox("Please complete the highlighted fields to continue ");
     return false;
   }
   if (CharacterCount(text(kDateOfBirth)) != 10) {
-    boxes().UserMessage("You must complete the date of birth in the format yyyymmdd to save");
-    return false;
+    return ask_for(kDateOfBirth,
+                   "You must complete the date of birth in the format yyyymmdd to save");
   }
-  if (LeadingNumber(text(kCitizen)) == 0) {
-    boxes().UserMessage("You must answer 4.10 to save");
-    return false;
-  }
-  if (text(kSiteType).empty() || text(kStaffCategory).empty()) {
-    boxes().UserMessage("You must answer 4.1 and 4.2 to save");
-    return false;
+  if (LeadingNumber(text(kCitizen)) == 0) return ask_for(kCitizen, "You must answer 4.10 to save");
+  for (const Cell cell : {kSiteType, kStaffCategory}) {
+    if (text(cell).empty()) return ask_for(cell, "You must answer 4.1 and 4.2 to save");
   }
   return true;
 }
 
 bool FrmEducatorData::CheckHighlightedFields() {
-  bool complete = true;
+  std::optional<Cell> first;  // in the order of reading
   for (const RequiredCell& required : kRequired) {
-    const bool missing = IsMissing(gridgeneral, required);
     const auto& [column, row] = required.cell;
+    const bool missing = IsMissing(gridgeneral, required);
     gridgeneral.SetBackColor(column, row, missing ? kYellow : kWhite);
-    if (missing && complete) gridgeneral.SetActiveCell(column, row);  // brings it into view
-    complete = complete && !missing;
+    if (!missing) continue;
+    if (!first || std::tie(row, column) < std::tie(first->row, first->column)) {
+      first = required.cell;
+    }
   }
-  return complete;
+  if (first) SetFocus(gridgeneral, *first);
+  return !first;
 }
 
 // The year is that of the instrument in both statements, whatever the survey year is.

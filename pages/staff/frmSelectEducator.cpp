@@ -82,6 +82,7 @@ FrmSelectEducator::FrmSelectEducator(FormHost& host)
     SelectedStaffId = gridEducator.GetText(kIdColumn, row);
     SelectedStaffName = gridEducator.GetText(kNameColumn, row);
   };
+  gridEducator.Default = &cmdEdit;
   cmdAddNew.on_click = [this] { AddNew(); };
   cmdDelete.on_click = [this] { Delete(); };
   cmdUpdateID.on_click = [this] { UpdateID(); };
@@ -123,6 +124,7 @@ void FrmSelectEducator::Form_Load() {
 void FrmSelectEducator::Form_Activate() {
   LoadSchools();
   SelectedStaffId.reset();
+  SetFocus(gridEducator);
 }
 
 // ---- The list --------------------------------------------------------------------------------
@@ -242,7 +244,7 @@ void FrmSelectEducator::CorrectID(const std::string& old_id, const std::string& 
 
 void FrmSelectEducator::PrintPages() {
   Printer& printer = host().platform().printer;
-  printer.ShowPrinter();
+  ChoosePrinter("staff survey", chAll.Value() ? "" : SelectedStaffId.value_or(""));
   if (chAll.Value()) {
     PrintAllMembers();
     SelectedStaffId.reset();
@@ -292,7 +294,7 @@ void FrmSelectEducator::PrintMember(const std::string& id) {
 void FrmSelectEducator::PrintList() {
   constexpr double kBottomMargin = 1000;
   Printer& printer = host().platform().printer;
-  printer.ShowPrinter();
+  ChoosePrinter("staff list");
   printer.SetOrientation(Orientation::kPortrait);
   const double right = printer.Width();
   const double bottom = printer.Height() - kBottomMargin;

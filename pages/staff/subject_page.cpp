@@ -57,6 +57,7 @@ SubjectPage::SubjectPage(FormHost& host, const PageRow& page, const SubjectList&
     lblAdvice.emplace_back(*this, "lblAdvice", advice, static_cast<int>(lblAdvice.size()));
   }
   txtRow.takes_key = IsDigitOrControl;
+  txtSearch.Default = &cmdGo;
   cmdGo.on_click = [this] { Search(); };
   cboSubject.on_click = [this] { TakePick(); };
   cboSubject.on_got_focus = [this] { cboSubject.BackColor = kWhite; };

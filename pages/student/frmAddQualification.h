@@ -24,7 +24,7 @@ class FrmAddQualification : public Form {
   Label Label4{*this, "Label4", "Select the Level of the qualification:"};
   ComboBox cboLevel{*this, "cboLevel", "Select the Level of the qualification:"};
   Button cmdSave{*this, "cmdSave", "Save Data", ButtonRole::kSave};
-  Button cmdCancel{*this, "cmdCancel", "Cancel"};
+  Button cmdCancel{*this, "cmdCancel", "Cancel", ButtonRole::kCancel};
 
  protected:
   void Form_Load() override;

@@ -61,8 +61,9 @@ int FakeDialogs::ShowMessage(const MessageBox& box) {
   return (box.type & kSecondButtonDefault) != 0 ? kAnswerNo : kAnswerYes;
 }
 
-std::string FakeDialogs::OpenFile(const std::string& filter) {
+std::string FakeDialogs::OpenFile(const std::string& filter, const std::filesystem::path& folder) {
   filter_seen = filter;
+  folder_seen = folder;
   return file;
 }
 
@@ -89,7 +90,8 @@ void FakeSettings::Save(const std::string& application, const std::string& secti
   written.push_back(value);
 }
 
-void FakePrinter::ShowPrinter() {
+void FakePrinter::ShowPrinter(const std::string& for_job) {
+  job = for_job;
   operations.push_back("ShowPrinter");
   if (cancel) throw CancelWasSelected();
 }

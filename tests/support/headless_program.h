@@ -31,7 +31,7 @@ class TemporaryFolder {
 // The user in front of the dialogs: answers what it was told to, and remembers what it saw.
 struct FakeDialogs : Dialogs {
   int ShowMessage(const MessageBox& box) override;
-  std::string OpenFile(const std::string& filter) override;
+  std::string OpenFile(const std::string& filter, const std::filesystem::path& folder) override;
   std::string InputBox(const std::string& prompt, const std::string& title) override;
   std::unique_ptr<Progress> BeginProgress(const std::string& title) override;
 
@@ -39,6 +39,7 @@ struct FakeDialogs : Dialogs {
   std::deque<int> answers;  // OK, or the default button, once they are used up
   std::string file;         // the next pick
   std::string filter_seen;
+  std::filesystem::path folder_seen;
   std::deque<std::string> inputs;        // Cancel once they are used up
   std::vector<std::string> inputs_seen;  // "title: prompt"
   std::vector<std::string> steps_seen;   // "title: done/total what"
@@ -65,7 +66,7 @@ struct FakeProgramFolder : ProgramFolder {
 
 // Writes down each operation.
 struct FakePrinter : Printer {
-  void ShowPrinter() override;
+  void ShowPrinter(const std::string& job) override;
   void SetFont(std::string_view name, double points, bool bold) override;
   void SetFontBold(bool bold) override;
   void SetCurrentX(double x) override;
@@ -82,6 +83,7 @@ struct FakePrinter : Printer {
   void EndDoc() override { operations.push_back("EndDoc"); }
 
   std::vector<std::string> operations;
+  std::string job;      // the last choice was for
   bool cancel = false;  // the user cancels the dialog
   bool broken = false;  // fails at the first text
   int pages = 1;        // that a grid needs

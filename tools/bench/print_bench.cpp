@@ -66,8 +66,8 @@ class OneFile : public QtPrinter {
           return true;
         }) {}
 
-  void ShowPrinter() override {
-    if (!shown_) QtPrinter::ShowPrinter();
+  void ShowPrinter(const std::string& job) override {
+    if (!shown_) QtPrinter::ShowPrinter(job);
     shown_ = true;
   }
   void Complete() {
