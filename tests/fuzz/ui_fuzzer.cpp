@@ -191,7 +191,7 @@ class UiFuzzer {
                            Chance(4) || step_ >= steps_ || !fault_.empty();
     if (is_closed) {
       ++step_;
-      dialog->reject();
+      dialog->close();
     } else {
       auto* line = qobject_cast<QInputDialog*>(dialog) ? dialog->findChild<QLineEdit*>() : nullptr;
       if (line != nullptr && Chance(50)) line->setText(Any(kNames));
