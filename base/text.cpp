@@ -1,6 +1,7 @@
 #include "base/text.h"
 
 #include <unicode/locid.h>
+#include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
@@ -8,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include "base/run_time_error.h"
@@ -46,6 +48,27 @@ Whole RoundTo(double number) {
 }
 
 char LowerLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+using Form = const icu::Normalizer2* (*)(UErrorCode&);
+
+icu::UnicodeString Normalized(const icu::UnicodeString& text, Form form) {
+  UErrorCode status = U_ZERO_ERROR;
+  icu::UnicodeString normalized = form(status)->normalize(text, status);
+  return U_SUCCESS(status) ? normalized : text;
+}
+
+// A folded text without the marks above and below its letters.
+std::string WithoutMarks(std::string_view folded) {
+  const icu::UnicodeString apart = Normalized(FromUtf8(folded), icu::Normalizer2::getNFDInstance);
+  icu::UnicodeString letters;
+  for (std::int32_t i = 0; i < apart.length(); i = apart.moveIndex32(i, 1)) {
+    const UChar32 letter = apart.char32At(i);
+    if (u_charType(letter) != U_NON_SPACING_MARK) letters += letter;
+  }
+  std::string plain;
+  letters.toUTF8String(plain);
+  return plain;
+}
 
 }  // namespace
 
@@ -101,6 +124,34 @@ std::string UpperCase(std::string_view text) {
   std::string capitals;
   FromUtf8(text).toUpper(icu::Locale::getRoot()).toUTF8String(capitals);
   return capitals;
+}
+
+std::string FoldCase(std::string_view text) {
+  std::string folded;
+  if (IsAscii(text)) {
+    std::ranges::transform(text, std::back_inserter(folded), LowerLetter);
+  } else {
+    Normalized(FromUtf8(text).foldCase(), icu::Normalizer2::getNFCInstance).toUTF8String(folded);
+  }
+  return folded;
+}
+
+int CompareTexts(std::string_view left, std::string_view right) {
+  const std::string first = FoldCase(left);
+  const std::string second = FoldCase(right);
+  if (IsAscii(left) && IsAscii(right)) return first.compare(second);
+  const int by_letter = WithoutMarks(first).compare(WithoutMarks(second));
+  return by_letter != 0 ? by_letter : first.compare(second);
+}
+
+bool BeginsWith(std::string_view text, std::string_view beginning) {
+  const std::string_view start = text.substr(0, beginning.size());
+  if (IsAscii(start) && IsAscii(beginning)) return EqualsIgnoringCase(start, beginning);
+  return FoldCase(text).starts_with(FoldCase(beginning));
+}
+
+bool IsAscii(std::string_view text) {
+  return std::ranges::all_of(text, [](char c) { return static_cast<signed char>(c) >= 0; });
 }
 
 std::string Trim(std::string_view text) {

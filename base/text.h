@@ -38,6 +38,20 @@ bool IsOneLine(std::string_view text);
 // `text` in capitals, accented letters included.
 std::string UpperCase(std::string_view text);
 
+// What texts that differ in the case of their letters alone have in common, accented letters
+// included: "WÊRELD" and "Wêreld" give the same. One letter, however it is composed, is one.
+std::string FoldCase(std::string_view text);
+
+// The order in which lists show texts: without regard to case, an accented letter beside its plain
+// one. Below 0 when `left` comes first; 0 only for texts that FoldCase makes the same.
+int CompareTexts(std::string_view left, std::string_view right);
+
+// Whether `text` begins with `beginning`, without regard to case.
+bool BeginsWith(std::string_view text, std::string_view beginning);
+
+// True for a text of plain letters, digits and signs: no accents, one byte a character.
+bool IsAscii(std::string_view text);
+
 // `text` without blanks at its ends.
 std::string Trim(std::string_view text);
 

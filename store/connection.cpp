@@ -13,6 +13,7 @@
 #include "store/contents_guard.h"
 #include "store/dialect.h"
 #include "store/left_journal.h"
+#include "store/letters.h"
 
 namespace survey {
 namespace {
@@ -234,6 +235,7 @@ Connection::Connection(sqlite3* database) : database_(database) {
   sqlite3_progress_handler(
       database, kStepsAtOnce,
       [](void* work) { return ++*static_cast<int*>(work) > kMostWork ? 1 : 0; }, &work_);
+  RegisterLetters(database);
 }
 
 std::unique_ptr<Connection> Connection::Open(const std::string& path, std::string_view password,

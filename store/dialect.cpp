@@ -1,12 +1,14 @@
 #include "store/dialect.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <chrono>
 #include <cstddef>
 
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "store/letters.h"
 
 namespace survey {
 namespace {
@@ -55,10 +57,13 @@ std::string StoredDate(std::string_view date) {
   return Padded(year, 4) + "/" + Padded(month, 2) + "/" + Padded(day, 2);
 }
 
-// The quoted piece at the start of `text`, with both its quotes. A doubled quote needs no care: it
-// ends one piece and begins the next.
+// The quoted piece at the start of `text`, with both its quotes; a doubled quote stands for one
+// inside it.
 std::string_view QuotedPiece(std::string_view text, char closing) {
-  const auto end = text.find(closing, 1);
+  auto end = text.find(closing, 1);
+  while (end != std::string_view::npos && text.substr(end + 1).starts_with(closing)) {
+    end = text.find(closing, end + 2);
+  }
   if (end == std::string_view::npos) {
     Refuse(std::string("a ") + text.front() + " in the statement is not closed");
   }
@@ -66,6 +71,79 @@ std::string_view QuotedPiece(std::string_view text, char closing) {
 }
 
 char ClosingQuote(char opening) { return opening == '[' ? ']' : opening; }
+
+bool IsWordPart(char c) {
+  return c == '_' || c == '.' || std::isalnum(static_cast<unsigned char>(c)) != 0;
+}
+
+// Turns one statement into the engine's, from its start to its end.
+class Translation {
+ public:
+  explicit Translation(std::string_view statement) : rest_(statement) {
+    sql_.reserve(statement.size() + 16);
+  }
+
+  std::string Run() {
+    while (!rest_.empty()) {
+      const std::string_view piece = NextPiece();
+      Take(piece);
+      rest_.remove_prefix(piece.size());
+    }
+    return std::move(sql_);
+  }
+
+ private:
+  std::string_view NextPiece() const {
+    const char c = rest_.front();
+    if (std::string_view("'\"[`#").find(c) != std::string_view::npos) {
+      return QuotedPiece(rest_, ClosingQuote(c));
+    }
+    const auto word_end = std::ranges::find_if_not(rest_, IsWordPart);
+    return rest_.substr(0, std::max<std::size_t>(1, word_end - rest_.begin()));
+  }
+
+  void Take(std::string_view piece) {
+    const char c = piece.front();
+    if (c == '#') {
+      sql_ += '\'' + StoredDate(piece.substr(1, piece.size() - 2)) + '\'';
+    } else if (rest_.starts_with("--") || rest_.starts_with("/*")) {
+      Refuse("a statement holds no comments");
+    } else if (c == '&') {
+      // Joining two operands gives a text that stands for true, whatever they are; a number that
+      // is joined to a mark of its own differs from every number and from null, so this is true
+      // as well, and binds as an equals sign in this place would.
+      sql_ += " IS NOT '&' || ";
+    } else if (c == '*' && EqualsIgnoringCase(Trim(sql_), "delete")) {
+      // The engine deletes whole rows without being told.
+    } else if (IsWordPart(c)) {
+      TakeWord(piece);
+    } else {
+      const bool by_letters = c == '\'' && !IsAscii(piece) && Trim(sql_).ends_with('=');
+      sql_ += piece;
+      if (by_letters) sql_ += kByLetters;
+      at_sorted_column_ = sorting_ && (c == ',' || (at_sorted_column_ && c == ' '));
+      if (c == ')') sorting_ = false;
+    }
+  }
+
+  // The columns behind an ORDER BY are sorted as texts sort; numbers sort as numbers all the same.
+  void TakeWord(std::string_view word) {
+    sql_ += word;
+    const bool calls = rest_.substr(word.size()).starts_with('(');
+    if (at_sorted_column_ && !calls) sql_ += kByLetters;
+    at_sorted_column_ = EqualsIgnoringCase(last_word_, "order") && EqualsIgnoringCase(word, "by");
+    sorting_ = sorting_ || at_sorted_column_;
+    last_word_ = word;
+  }
+
+  static inline const std::string kByLetters = std::string(" COLLATE ") + kAnyCase;
+
+  std::string_view rest_;
+  std::string_view last_word_;
+  std::string sql_;
+  bool sorting_ = false;           // behind an ORDER BY
+  bool at_sorted_column_ = false;  // where one of its columns may begin
+};
 
 }  // namespace
 
@@ -75,33 +153,6 @@ std::string SqlEscape(std::string_view text) {
   return escaped;
 }
 
-std::string ToEngineSql(std::string_view statement) {
-  std::string sql;
-  sql.reserve(statement.size() + 16);
-  while (!statement.empty()) {
-    const char c = statement.front();
-    std::string_view piece = statement.substr(0, 1);
-    if (c == '\'' || c == '"' || c == '[' || c == '`') {
-      piece = QuotedPiece(statement, ClosingQuote(c));
-      sql += piece;
-    } else if (c == '#') {
-      piece = QuotedPiece(statement, '#');
-      sql += '\'' + StoredDate(piece.substr(1, piece.size() - 2)) + '\'';
-    } else if (statement.starts_with("--") || statement.starts_with("/*")) {
-      Refuse("a statement holds no comments");
-    } else if (c == '&') {
-      // Joining two operands gives a text that stands for true, whatever they are; a number that
-      // is joined to a mark of its own differs from every number and from null, so this is true
-      // as well, and binds as an equals sign in this place would.
-      sql += " IS NOT '&' || ";
-    } else if (c == '*' && EqualsIgnoringCase(Trim(sql), "delete")) {
-      // The engine deletes whole rows without being told.
-    } else {
-      sql += c;
-    }
-    statement.remove_prefix(piece.size());
-  }
-  return sql;
-}
+std::string ToEngineSql(std::string_view statement) { return Translation(statement).Run(); }
 
 }  // namespace survey

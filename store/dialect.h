@@ -14,6 +14,8 @@ std::string SqlEscape(std::string_view text);
 //   Delete * from t            ->  Delete from t
 //   #2012/10/04#               ->  '2012/10/04', a day of the calendar, padded with zeros
 //   college & 4                ->  a condition that always holds: the joined text is never false
+//   order by surname           ->  order by surname COLLATE any_case (see letters.h)
+//   code = 'é'                 ->  code = 'é' COLLATE any_case
 // Throws RunTimeError for what the survey's statements never hold and a stray quote could bring
 // in: a comment, a date that is none, a quote that is not closed.
 std::string ToEngineSql(std::string_view statement);

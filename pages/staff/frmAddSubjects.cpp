@@ -167,7 +167,7 @@ void FrmAddSubjects::SortBy(int column) {
   sorted_by_ = column;
   std::vector<ListedSubject> subjects;
   for (int row = 1; row <= gridSubjectList.MaxRows(); ++row) {
-    subjects.push_back({UpperCase(gridSubjectList.GetText(column, row)),
+    subjects.push_back({gridSubjectList.GetText(column, row),
                         gridSubjectList.GetText(kCodeColumn, row),
                         gridSubjectList.GetText(kNameColumn, row),
                         gridSubjectList.GetText(kProgrammeColumn, row)});
@@ -175,7 +175,7 @@ void FrmAddSubjects::SortBy(int column) {
   std::ranges::stable_sort(
       subjects,
       [this](const std::string& left, const std::string& right) {
-        return descending_ ? right < left : left < right;
+        return (descending_ ? CompareTexts(right, left) : CompareTexts(left, right)) < 0;
       },
       &ListedSubject::key);
   int row = 0;

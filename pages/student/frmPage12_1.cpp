@@ -252,9 +252,8 @@ void FrmPage12_1::TypeAhead(char32_t character) {
   search += static_cast<char>(character);
   cboSelect.DroppedDown = true;
   const auto& items = cboSelect.items();
-  const auto found = std::ranges::find_if(items, [&](const ListItem& item) {
-    return EqualsIgnoringCase(std::string_view(item.text).substr(0, search.size()), search);
-  });
+  const auto found = std::ranges::find_if(
+      items, [&](const ListItem& item) { return BeginsWith(item.text, search); });
   if (found == items.end()) return;
   cboSelect.SetListIndex(static_cast<int>(found - items.begin()));
   cboSelect.SelectionStart = CharacterCount(search);

@@ -49,6 +49,17 @@ TEST(Text, CharactersAreCountedCapitalisedAndChecked) {
   EXPECT_FALSE(EqualsIgnoringCase("survey", "surveys") || EqualsIgnoringCase("a[", "a{"));
 }
 
+TEST(Text, TextsCompareWithoutRegardToTheCaseOfAnyLetter) {
+  EXPECT_EQ(FoldCase("WÊRELD ß"), FoldCase("we\u0302reld SS"));
+  EXPECT_NE(FoldCase("WÊRELD"), FoldCase("wereld"));
+  EXPECT_TRUE(BeginsWith("ÉTé", "étÉ") && BeginsWith("Été", "E\u0301") && !BeginsWith("a", "ab"));
+  const std::vector<std::string> sorted = {"", "'n", "1", "e", "Éa", "eb", "éB", "f", "Šabc", "T"};
+  for (std::size_t i = 1; i < sorted.size(); ++i) {
+    EXPECT_LT(CompareTexts(sorted[i - 1], sorted[i]), 0) << sorted[i];
+    EXPECT_GT(CompareTexts(sorted[i], sorted[i - 1]), 0) << sorted[i];
+  }
+}
+
 TEST(Value, NullIsNoNumberAndATextIsACodeOnlyAsAWhole) {
   EXPECT_TRUE(Value().IsNull() && Value().IsEmpty() && !Value().Is(0));
   EXPECT_THROW(Value().Number(), RunTimeError);

@@ -106,8 +106,11 @@ TEST_F(SubjectPages, ASearchPicksItsFirstHitAndShowsTheOthers) {
   EXPECT_EQ(LastBox(), "The subject could not be located");
   EXPECT_THAT(Offered(), IsEmpty());
   On<OptionButton>("optname").Click();
+  RunScript("insert into lst_Subject values (99,'500','W\u00eareldgeskiedenis','NSC')");
+  Search("W\u00caRELD");
+  EXPECT_EQ(Line(3), "500 W\u00eareldgeskiedenis NSC||||500");
   Search("women's");
-  EXPECT_EQ(Line(3), "300 Women's Health NSC||||300");
+  EXPECT_EQ(Line(4), "300 Women's Health NSC||||300");
 }
 
 TEST_F(SubjectPages, TheTypesOfferTheirProgrammeAndAreClearedBehindTheCatalogue) {

@@ -8,8 +8,12 @@ namespace {
 TEST(Dialect, TranslatesOnlyOutsideQuotes) {
   EXPECT_EQ(ToEngineSql(" DELETE * from t where a = 2*3"), " DELETE  from t where a = 2*3");
   EXPECT_EQ(ToEngineSql("(#2012/1/4#,#2012/02/29#)"), "('2012/01/04','2012/02/29')");
+  EXPECT_EQ(ToEngineSql("x = 'a' order BY t.a,b ,c"),
+            "x = 'a' order BY t.a COLLATE any_case,b COLLATE any_case ,c COLLATE any_case");
+  EXPECT_EQ(ToEngineSql("a ='O''\u00e9' and b = 'order by c'"),
+            "a ='O''\u00e9' COLLATE any_case and b = 'order by c'");
   for (const char* same : {"Select * from t", "x = 'Delete * #1# & -- /* '", "x = \"#&--\"",
-                           "[a & b#--]", "x = 'it''s & #'", "`&#`"}) {
+                           "[a & b#--]", "'\u00e9' order", "x = 'it''s & #'", "`&#`"}) {
     EXPECT_EQ(ToEngineSql(same), same);
   }
 }
