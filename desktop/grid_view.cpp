@@ -104,6 +104,7 @@ void GridView::Refresh() {
   Measure();
   entry_->Refresh();
   FollowActiveCell();
+  ShowChosenRow();
   UpdatePanes();
 }
 
@@ -126,11 +127,22 @@ void GridView::FollowActiveCell() {
   if (active == currentIndex()) return;
   if (list_) {
     // Without selecting it: only a row that the user chose is shown as chosen.
-    selectionModel()->setCurrentIndex(active, QItemSelectionModel::Clear);
+    selectionModel()->setCurrentIndex(active, QItemSelectionModel::NoUpdate);
   } else {
     setCurrentIndex(active);
   }
   scrollTo(active);
+}
+
+// What a list shows as chosen is what the form knows as chosen.
+void GridView::ShowChosenRow() {
+  if (!list_) return;
+  if (grid_.ChosenRow() == 0) {
+    selectionModel()->clearSelection();
+  } else {
+    selectionModel()->select(model_->IndexOf({Active().column, grid_.ChosenRow()}),
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  }
 }
 
 void GridView::LayOut() {
@@ -293,7 +305,7 @@ bool GridView::ListKey(const QKeyEvent& event) {
     return true;
   }
   // While no row is chosen, the first Down chooses the one where the cursor is.
-  const bool enters = event.key() == Qt::Key_Down && !selectionModel()->hasSelection();
+  const bool enters = event.key() == Qt::Key_Down && grid_.ChosenRow() == 0;
   if (!enters && !IsEnter(event) && event.key() != Qt::Key_Space) return false;
   Choose();
   return true;
@@ -339,9 +351,8 @@ void GridView::Attend(Cell cell, const std::string& word) {
 
 // What a click does in a list, from the keyboard.
 void GridView::Choose() {
-  selectionModel()->select(currentIndex(),
-                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   grid_.Click(Active().column, Active().row);
+  ShowChosenRow();
 }
 
 // ---- Mouse and cursor ----------------------------------------------------------------------
@@ -374,6 +385,7 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
   released_at_ = event->pos();
   QTableView::mouseReleaseEvent(event);
   pressing_ = false;
+  ShowChosenRow();  // a press that was no click has chosen nothing
   if (std::exchange(goes_on_, false) && grid_.Default != nullptr) grid_.Default->Click();
 }
 

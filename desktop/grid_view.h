@@ -82,6 +82,7 @@ class GridView : public QTableView {
   QPoint Scroll() const;
   void PaintPane(Pane pane, QPainter& painter, const QRect& exposed) const;
   void FollowActiveCell();
+  void ShowChosenRow();
 
   // ---- Keys and mouse
   bool TableKey(const QKeyEvent& event);

@@ -22,6 +22,7 @@ void Grid::ReturnToDesign() {
   cells_.assign(MaxColumns() * rows_, CellState{});
   hidden_rows_.assign(rows_, false);
   active_ = NextOpenCell({0, 0}).value_or(Cell{1, 1});
+  chosen_row_ = 0;
   for (const CellText& text : design_->texts) SetText(text.column, text.row, text.text);
   ++revision_;
 }
@@ -73,6 +74,12 @@ void Grid::SetActiveCell(int column, int row) {
   ++revision_;
 }
 
+void Grid::SetChosenRow(int row) {
+  if (row == chosen_row_) return;
+  chosen_row_ = row;
+  ++revision_;
+}
+
 void Grid::ClearRange(int column, int row, int last_column, int last_row) {
   for (int r = std::max(row, 1); r <= std::min(last_row, rows_); ++r) {
     for (int c = std::max(column, 1); c <= std::min(last_column, MaxColumns()); ++c) {
@@ -93,6 +100,7 @@ void Grid::SetMaxRows(int rows) {
   cells_.resize(MaxColumns() * rows_);
   hidden_rows_.resize(rows_);
   active_.row = std::clamp(active_.row, 1, std::max(rows_, 1));
+  if (chosen_row_ > rows_) chosen_row_ = 0;
   for (const auto& total : index_.totals()) {
     if (total.position >= before) cells_[total.position].stale = true;
   }
@@ -230,6 +238,7 @@ void Grid::Click(int column, int row) {
         row == 0 && !design_->heads.empty() && column >= 1 && column <= MaxColumns();
     if (!on_head && !Has(column, row)) return;
     MoveCursor(column, row);  // nowhere from the head
+    if (!on_head) SetChosenRow(row);
     if (on_click) on_click(column, row);
   });
 }

@@ -66,6 +66,10 @@ class Grid {
   void ClearRange(int column, int row, int last_column, int last_row);
   int ActiveColumn() const { return active_.column; }
   int ActiveRow() const { return active_.row; }
+  // The row of a list that the user's last click chose, 0 for none; the list shows it. Whoever
+  // forgets or changes what is chosen says so here.
+  int ChosenRow() const { return chosen_row_; }
+  void SetChosenRow(int row);
   int MaxRows() const { return rows_; }
   int MaxColumns() const { return design_->columns; }
   // Rows are added empty, under the rules of the design that reach them, and dropped from the end.
@@ -112,7 +116,8 @@ class Grid {
   Entry Restore(int column, int row, std::string_view text);
   // The cursor goes to a cell, by key or mouse: notifies on_cell where it really moved.
   void MoveTo(int column, int row);
-  // A click on a cell: moves the cursor there, then notifies on_click. Row 0 is the head.
+  // A click on a cell: moves the cursor there, chooses its row, then notifies on_click. Row 0 is
+  // the head and chooses nothing.
   void Click(int column, int row);
 
   // What a form hears of the user's side. The form sets them; they outlive ReturnToDesign().
@@ -165,6 +170,7 @@ class Grid {
   mutable std::vector<CellState> cells_;  // totals are computed when read
   std::vector<bool> hidden_rows_;
   Cell active_;
+  int chosen_row_ = 0;
   std::uint64_t revision_ = 0;
 };
 

@@ -121,6 +121,7 @@ void FrmAddSubjects::GetSubject(std::string_view code) {
   Trap(kListRoutine, [&] {
     gridSubjectList.ClearRange(kCodeColumn, 1, kProgrammeColumn, gridSubjectList.MaxRows());
     sorted_by_ = 0;
+    gridSubjectList.SetChosenRow(0);
     survey().OpenDatabaseConnection();
     Recordset subjects;
     subjects.Open(StatementFor(ToWholeNumber(LeadingNumber(code))),
@@ -178,6 +179,7 @@ void FrmAddSubjects::SortBy(int column) {
         return (descending_ ? CompareTexts(right, left) : CompareTexts(left, right)) < 0;
       },
       &ListedSubject::key);
+  gridSubjectList.SetChosenRow(0);
   int row = 0;
   for (const auto& [key, code, name, programme] : subjects) {
     ShowSubject(code, name, programme, ++row, gridSubjectList);

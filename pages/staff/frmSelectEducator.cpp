@@ -79,7 +79,7 @@ FrmSelectEducator::FrmSelectEducator(FormHost& host)
   cmdSpecialisation.ToolTip = "Subject Majors";
   gridEducator.on_click = [this](int, int row) {
     if (row == 0) return;
-    SelectedStaffId = gridEducator.GetText(kIdColumn, row);
+    Select(gridEducator.GetText(kIdColumn, row), row);
     SelectedStaffName = gridEducator.GetText(kNameColumn, row);
   };
   gridEducator.Default = &cmdEdit;
@@ -117,14 +117,19 @@ Layout FrmSelectEducator::Arrange() {
 void FrmSelectEducator::Form_Load() {
   Caption = survey().SurveyCaption("Staff List");
   survey().OpenDatabaseConnection();
-  SelectedStaffId.reset();
+  Select({});
   for (int row = 2; row <= kRows; ++row) gridEducator.SetRowHidden(row, true);
 }
 
 void FrmSelectEducator::Form_Activate() {
   LoadSchools();
-  SelectedStaffId.reset();
+  Select({});
   SetFocus(gridEducator);
+}
+
+void FrmSelectEducator::Select(std::optional<std::string> id, int row) {
+  SelectedStaffId = std::move(id);
+  gridEducator.SetChosenRow(row);
 }
 
 // ---- The list --------------------------------------------------------------------------------
@@ -205,7 +210,7 @@ void FrmSelectEducator::Delete() {
                      *SelectedStaffId + "'");
   });
   if (!removed) return;
-  SelectedStaffId = "";
+  Select("");
   LoadSchools();
 }
 
@@ -221,7 +226,7 @@ void FrmSelectEducator::UpdateID() {
   } else {
     CorrectID(SqlEscape(*SelectedStaffId), SqlEscape(new_id));
   }
-  SelectedStaffId.reset();
+  Select({});
   LoadSchools();
 }
 
@@ -247,7 +252,7 @@ void FrmSelectEducator::PrintPages() {
   ChoosePrinter("staff survey", chAll.Value() ? "" : SelectedStaffId.value_or(""));
   if (chAll.Value()) {
     PrintAllMembers();
-    SelectedStaffId.reset();
+    Select({});
   } else if (SelectedStaffId.value_or("").empty()) {
     boxes().UserMessage(kNobodySelected);
   } else {
@@ -265,7 +270,7 @@ void FrmSelectEducator::PrintAllMembers() {
     if (!progress->Step(row - 1, members, gridEducator.GetText(kNameColumn, row))) break;
     const std::string& id = gridEducator.GetText(kIdColumn, row);
     if (id.empty()) continue;
-    SelectedStaffId = id;  // stays so where the print fails
+    Select(id, row);  // stays so where the print fails
     PrintMember(id);
     printer.NewPage();
   }

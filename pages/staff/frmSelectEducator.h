@@ -50,6 +50,8 @@ class FrmSelectEducator : public Form {
 
  private:
   void LoadSchools();  // the staff
+  // Nobody without a row; the list shows whoever is selected, and nobody else.
+  void Select(std::optional<std::string> id, int row = 0);
   void ShowRow(const Recordset& member, int row);
   bool StaffIdExists(const std::string& id);
   void OpenPageOfSelected(const Button& button);

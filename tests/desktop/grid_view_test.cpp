@@ -331,7 +331,13 @@ TEST_F(GridViewTest, ListChoosesRows) {
                                         "click 1,4", "click 1,0"));
   form().list.SetActiveCell(1, 9);
   list_->Refresh();
-  EXPECT_FALSE(list_->selectionModel()->hasSelection()) << "code chose no row";
+  EXPECT_FALSE(list_->selectionModel()->isRowSelected(8)) << "code chose no row";
+  QTest::mousePress(list_->viewport(), Qt::LeftButton, {}, Place(*list_, 2, 6).center());
+  QTest::mouseRelease(list_->viewport(), Qt::LeftButton, {}, Place(*list_, 2, 7).center());
+  EXPECT_TRUE(list_->selectionModel()->isRowSelected(3)) << "neither did what was no click";
+  form().list.SetChosenRow(0);
+  list_->Refresh();
+  EXPECT_FALSE(list_->selectionModel()->hasSelection()) << "the form has forgotten the choice";
 }
 
 TEST_F(GridViewTest, SaysWhatItShows) {

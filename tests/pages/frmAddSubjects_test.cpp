@@ -82,9 +82,13 @@ TEST_F(AddSubjects, AClickOnAHeadSortsTheList) {
   Table().Click(1, 0);
   EXPECT_EQ(Codes(), "10 20 21 30 9 ");  // as text
   EXPECT_EQ(Shown({{2, 5}, {3, 5}}), "Zulu|Report 191 (old)");
+  RunScript("insert into lst_Subject values (99,'11','\u00c1lgebra','NC(V)')");
   Filter(3);
+  EXPECT_EQ(Table().ChosenRow(), 0);
   Table().Click(1, 0);  // the list is another one
-  EXPECT_EQ(Codes(), "10 21 ");
+  EXPECT_EQ(Codes(), "10 11 21 ");
+  Table().Click(2, 0);  // an accented letter beside its plain one
+  EXPECT_EQ(Codes(), "11 10 21 ");
 }
 
 TEST_F(AddSubjects, AddsASubjectOfThreeDetails) {

@@ -75,9 +75,11 @@ TEST_F(SelectEducator, OpensThePagesOfTheSelectedAndForgetsThemOnReturn) {
   Staff("0", "Aa");
   Reopen();
   Table().Click(3, 1);  // "0" is a number like any other
+  EXPECT_EQ(Table().ChosenRow(), 1);
   EXPECT_EQ(Opens("cmdEdit"), "frmEducatorData 0 Edit");
   EXPECT_EQ(host.Front()->Property<double>("EmisNumber"), 101);
   HeadlessProgram::Click("frmEducatorData", "cmdPrevious");
+  EXPECT_EQ(Table().ChosenRow(), 0) << "the list shows nobody as selected";
   EXPECT_EQ(Answer("cmdSpecialisation"), kNobody);
   Table().Click(1, 2);
   EXPECT_EQ(Opens("cmdSpecialisation"), "frmLecQualifications1 7501 ");
@@ -95,12 +97,14 @@ TEST_F(SelectEducator, AddsAnIdAndOpensOneFoundAnywhereForEditing) {
 }
 
 TEST_F(SelectEducator, RemovesFromTheCollegeOnly) {
+  Table().Click(1, 2);
   Table().Click(1, 3);
   EXPECT_EQ(Answer("cmdDelete"), "Are you sure you want to remove 7502 from this campus?");
   EXPECT_EQ(Count(), "3");
   dialogs.answers = {kAnswerYes, kAnswerYes};
   Click("cmdDelete");
   EXPECT_EQ(Query(kRecords)[0], "7502 0 2010");
+  EXPECT_EQ(Table().ChosenRow(), 0) << "nor is whoever stands there now";
   EXPECT_EQ(Count() + " " + Line(3), "2 |||");
   EXPECT_FALSE(Table().IsRowHidden(3));  // once shown, a row stays
   Table().Click(1, 2);                   // a quote in the ID breaks the statement
@@ -112,6 +116,7 @@ TEST_F(SelectEducator, CorrectsTheIdInSevenTables) {
   EXPECT_EQ(Answer("cmdUpdateID"), "You have not entered a new ID number for the staff member");
   EXPECT_EQ(dialogs.inputs_seen[0],
             "Staff member: O'9: Enter the correct ID number for Mokoena  A B");
+  EXPECT_EQ(Table().ChosenRow(), 0);
   EXPECT_EQ(Answer("cmdUpdateID"), kNoNumber);
   survey.SurveyYear = 2010;
   Table().Click(1, 2);

@@ -161,6 +161,7 @@ TEST_F(SurveyPrint, PrintsAllStaffInOneJobWithoutThoseWhoHaveNoId) {
   Click("cmdEdit");
   EXPECT_EQ(LastBox(), "Please select a staff member to continue");
 
+  EXPECT_EQ(Table().ChosenRow(), 0);
   printer.operations.clear();
   dialogs.stop_at = 2;
   Click("cmdPrintSurvey");
@@ -187,6 +188,7 @@ TEST_F(SurveyPrint, NobodySelectedOrAFailureOfOnePageIsTold) {
   Click("cmdEdit");  // whose print failed is selected
   EXPECT_EQ(host.Front()->Property("EducatorId"), "7502");
   host.CloseBox(*host.Front());
+  EXPECT_EQ(Table().ChosenRow(), 3);
   printer.cancel = true;
   Click("cmdPrint");
   EXPECT_THAT(LastBox(), ToldBy("frmSelectEducator", "Print Routine"));
