@@ -70,7 +70,7 @@ struct Desktop::Parts {
       : printer(places.choose_printer),
         settings(places.settings_file),
         program_folder(places.program_folder) {
-    QObject::connect(&view, &DesktopView::ActionEnded, &view, [this] { printer.Finish(); });
+    QObject::connect(&view, &DesktopView::ActionEnded, &view, [this] { printer.Complete(); });
   }
 
   QtDialogs dialogs{[this] { return view.FrontWindow(); }};

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPrintDialog>
 #include <QRegularExpression>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -42,6 +44,15 @@ void ProposeFile(QPrinter& printer, const QString& name) {
   if (!before.fileName().isEmpty()) printer.setOutputFileName(before.dir().filePath(name));
 }
 
+// Nobody says that a disk was full while a file was written on it; but the file then lacks its end.
+bool IsWhole(const QString& path) {
+  constexpr qint64 kEnd = 32;  // bytes that the mark stands in
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly) || file.size() == 0) return false;
+  file.seek(std::max<qint64>(0, file.size() - kEnd));
+  return file.readAll().trimmed().endsWith("%%EOF");
+}
+
 }  // namespace
 
 bool AskForPrinter(QPrinter& printer) {
@@ -55,15 +66,27 @@ QtPrinter::QtPrinter(PrinterChoice choose)
   printer_->setPageSize(QPageSize(QPageSize::A4));
 }
 
-QtPrinter::~QtPrinter() { Finish(); }
+QtPrinter::~QtPrinter() { Complete(); }
+
+bool QtPrinter::Complete() {
+  LeavePage();
+  if (!painter_) return true;
+  painter_.reset();
+  return printer_->outputFileName().isEmpty() || IsWhole(printer_->outputFileName());
+}
 
 void QtPrinter::Finish() {
-  painter_.reset();  // ends the job, completes a file
-  LeavePage();
+  if (Complete()) return;
+  throw RunTimeError(
+      kPrinterError,
+      QStringLiteral("The file \"%1\" has not been written whole. Free some space on "
+                     "the disk, or choose another folder, and print again.")
+          .arg(QDir::toNativeSeparators(printer_->outputFileName()))
+          .toStdString());
 }
 
 void QtPrinter::ShowPrinter(const std::string& job) {
-  Finish();
+  Complete();
   printer_->setPageOrientation(ToQt(orientation_));
   const QString name = FileNameOf(QString::fromStdString(job));
   ProposeFile(*printer_, name + ".pdf");
@@ -155,7 +178,7 @@ void QtPrinter::Fail() {
                     "connected.")
                     .arg(printer_->printerName());
   if (painter_ && painter_->isActive()) printer_->abort();
-  Finish();
+  Complete();
   throw RunTimeError(kPrinterError, what.toStdString());
 }
 

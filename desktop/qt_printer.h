@@ -25,8 +25,9 @@ class QtPrinter : public Printer {
   explicit QtPrinter(PrinterChoice choose = AskForPrinter);
   ~QtPrinter() override;
 
-  // Completes what has been printed. To be called when the user's action has ended.
-  void Finish();
+  // Ends what is being printed, which completes a file; false where the file has not become whole.
+  // For what a print that failed has left behind.
+  bool Complete();
 
   void ShowPrinter(const std::string& job) override;
   void SetFont(std::string_view name, double points, bool bold) override;
@@ -43,6 +44,7 @@ class QtPrinter : public Printer {
                           double bottom) override;
   void NewPage() override;
   void EndDoc() override;
+  void Finish() override;
 
  private:
   // The painter on a page that is begun; begins one first where that is due.

@@ -63,22 +63,10 @@ void Form::ChoosePrinter(const std::string& what, const std::string& staff_id) {
   host_.platform().printer.ShowPrinter(job);
 }
 
-bool Form::Trap(const ErrorName& name, const std::function<void()>& body, Commit commit) {
-  return Try(body, commit, [&](const RunTimeError& failure) {
-    if (host_.IsOffScreenWork()) throw RunTimeError(failure);
-    boxes().ReportError(name.location, failure.what(), name.procedure, failure.number());
-  });
-}
-
-bool Form::TrapSilently(const std::function<void()>& body) {
-  return Try(body, Commit::kAtEnd, [](const RunTimeError&) {});
-}
-
-bool Form::Try(const std::function<void()>& body, Commit commit,
-               const std::function<void(const RunTimeError&)>& tell) {
+bool Form::Trap(const ErrorName& name, const std::function<void()>& body) {
   try {
     body();
-    if (commit == Commit::kAtEnd) survey().EndStatements();
+    survey().EndStatements();
     return true;
   } catch (const RunTimeError& failure) {
     // What was done before the failure stays done; if even that cannot be committed, the user
@@ -86,11 +74,46 @@ bool Form::Try(const std::function<void()>& body, Commit commit,
     try {
       survey().EndStatements();
     } catch (const RunTimeError& commit_failure) {
-      tell(commit_failure);
+      Report(name, commit_failure);
     }
-    tell(failure);
+    Report(name, failure);
     return false;
   }
+}
+
+bool Form::TrapPrint(const ErrorName& name, const std::function<void()>& body) {
+  return Trap(name, [&] {
+    body();
+    host_.platform().printer.Finish();
+  });
+}
+
+bool Form::TrapStatements(const ErrorName& name, const std::function<void()>& body) {
+  try {
+    body();
+    return true;
+  } catch (const CommitFailure&) {
+    throw;
+  } catch (const RunTimeError& failure) {
+    Report(name, failure);
+    return false;
+  }
+}
+
+bool Form::TrapSilently(const std::function<void()>& body) {
+  try {
+    body();
+    return true;
+  } catch (const CommitFailure&) {
+    throw;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+void Form::Report(const ErrorName& name, const RunTimeError& failure) {
+  if (host_.IsOffScreenWork()) throw RunTimeError(failure);
+  boxes().ReportError(name.location, failure.what(), name.procedure, failure.number());
 }
 
 }  // namespace survey

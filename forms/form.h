@@ -17,12 +17,6 @@
 
 namespace survey {
 
-// When a trap commits what its body wrote.
-enum class Commit {
-  kAtEnd,        // with the body: a commit that fails is told under the trap's name
-  kWithHandler,  // with what the handler writes behind it, so that a kill leaves all of it or none
-};
-
 // A window of the program. One instance a run, made on first use; it outlives its unloading, its
 // public properties with it, while its controls return to their design at each load. Those that
 // FormHost::RunOffScreen makes besides go with the work.
@@ -92,9 +86,15 @@ class Form {
 
   // Runs `body` and commits what it wrote; a failure of either is reported under `name`, and
   // the handler goes on behind it. False after a failure. Throws it in FormHost::RunOffScreen.
-  bool Trap(const ErrorName& name, const std::function<void()>& body,
-            Commit commit = Commit::kAtEnd);
-  // The same without a word.
+  bool Trap(const ErrorName& name, const std::function<void()>& body);
+  // Runs `body`, which begins with ChoosePrinter, and completes what it printed, under the same
+  // trap.
+  bool TrapPrint(const ErrorName& name, const std::function<void()>& body);
+  // Runs a part of a handler whose statements may fail: a failure is reported under `name`, or
+  // passed over without a word, and the handler goes on behind it. False after a failure. What the
+  // part wrote is committed with the rest of the handler, and a commit that fails is the handler's
+  // to tell, never silent: a CommitFailure is thrown.
+  bool TrapStatements(const ErrorName& name, const std::function<void()>& body);
   bool TrapSilently(const std::function<void()>& body);
   // Goes where the link leads and hands on what it passes. `cmdSave` carries the unsaved mark
   // that a guarded link asks about.
@@ -111,8 +111,7 @@ class Form {
   friend class Control;
   friend class FormHost;
 
-  bool Try(const std::function<void()>& body, Commit commit,
-           const std::function<void(const RunTimeError&)>& tell);
+  void Report(const ErrorName& name, const RunTimeError& failure);
   Control& FindControl(std::string_view name, int index) const;
   void Load();
 

@@ -24,7 +24,7 @@ SurveyPage::SurveyPage(FormHost& host, const PageRow& row, const PageButtons& bu
   add(cmdMenu, "cmdMenu", buttons.menu);
   cmdSave.on_click = [this] { Save(); };
   cmdPrintPage.on_click = [this] {
-    Trap(row_.errors.print, [this] {
+    TrapPrint(row_.errors.print, [this] {
       ChoosePrinter(TablesOf(row_), StaffId());
       Printpage();
     });
@@ -74,6 +74,21 @@ void SurveyPage::FollowLink(const Button& button) {
 
 void SurveyPage::MarkChangesOf(GridControl& grid) {
   grid.on_change = [this](int, int) { MarkUnsaved(); };
+}
+
+bool SurveyPage::MayReplace(ShownRecords& shown,
+                            const std::function<std::vector<std::string>()>& stored) {
+  if (shown.complete) return true;
+  survey().OpenDatabaseConnection();
+  for (const std::string& key : stored()) {
+    if (shown.keys.contains(key)) continue;
+    boxes().PlainBox(
+        "The saved answers of this page could not be read when it was opened, and a save would "
+        "replace them. Nothing has been changed. Please open the page anew.");
+    return false;
+  }
+  shown.complete = true;
+  return true;
 }
 
 void SurveyPage::Save() {

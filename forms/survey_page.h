@@ -1,7 +1,9 @@
 #ifndef FORMS_SURVEY_PAGE_H_
 #define FORMS_SURVEY_PAGE_H_
 
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -69,6 +71,17 @@ class SurveyPage : public Form {
   // Tests that stand before the save; says itself what is missing. After false nothing is saved
   // and the mark stays.
   virtual bool MaySave() { return true; }
+
+  // What a page has shown of its stored records that passes over a failed reading without a word.
+  struct ShownRecords {
+    std::set<std::string> keys;  // of the records, as the page tells them apart
+    bool complete = false;       // that was all there was
+  };
+  // Whether a save may replace the stored records, whose keys `stored` reads: not while the store
+  // holds some that the page never showed, for they would be gone without anybody having seen them.
+  // Says so in a box. Asks the store only where `shown` is not complete, and completes it. Throws
+  // what `stored` throws.
+  bool MayReplace(ShownRecords& shown, const std::function<std::vector<std::string>()>& stored);
 
   // Adds a button that leads where the page chain says to the page's row of buttons.
   void AddLink(Button& button);

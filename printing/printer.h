@@ -44,6 +44,9 @@ class Printer {
 
   virtual void NewPage() = 0;
   virtual void EndDoc() = 0;
+
+  // Completes what was printed since the last choice. Throws where a file did not take all of it.
+  virtual void Finish() = 0;
 };
 
 }  // namespace survey

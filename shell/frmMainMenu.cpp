@@ -13,6 +13,8 @@ constexpr int kCampusSite = 2;
 // The year whose figures are printed, and which then holds until the menu is loaded again.
 constexpr int kPrintedYear = 2010;
 
+// Statements fail without a word here; a commit does not.
+constexpr ErrorName kContinueRoutine = {"frmMainMenu", "cmdContinue_Click"};
 constexpr ErrorName kPrintRoutine = {"frmMainMenu", "Print Routine"};
 
 }  // namespace
@@ -30,11 +32,13 @@ FrmMainMenu::FrmMainMenu(FormHost& host) : Form(host, "frmMainMenu", "Main Menu"
   cboCollege.on_drop_down = [this] { EmptyEmisNumbers(); };
   cboCollege.on_click = [this] { TrapSilently([this] { ListCampuses(); }); };
   cboCampus.on_click = [this] { TrapSilently([this] { ShowCampus(); }); };
-  cmdContinue.on_click = [this] { TrapSilently([this] { ClaimSite(); }); };
+  cmdContinue.on_click = [this] {
+    Trap(kContinueRoutine, [this] { TrapSilently([this] { ClaimSite(); }); });
+  };
 
   for (const PageRow& row : host.pages()) PlacePage(row);
   cmdStaff.on_click = [this] { Open("frmSelectEducator"); };
-  cmdPrintSurvey.on_click = [this] { Trap(kPrintRoutine, [this] { PrintSurvey(); }); };
+  cmdPrintSurvey.on_click = [this] { TrapPrint(kPrintRoutine, [this] { PrintSurvey(); }); };
   cmdList.on_click = [this] { Open("frmSelectCollege"); };
   cmdDisclaimer.on_click = [this] { this->host().ShowModal("frmAbout"); };
   cmdExit.on_click = [this] { this->host().UnloadAll(); };

@@ -77,6 +77,17 @@ RunTimeError EngineError(sqlite3* database) {
           explained.empty() ? message : std::string(explained) + " (" + message + ")"};
 }
 
+RunTimeError Emptied() {
+  return {SQLITE_CORRUPT, std::string(Explained(SQLITE_CORRUPT)) + " (it has become empty)"};
+}
+
+// Whether a failure is the file's or the disk's and not the statement's.
+bool IsOfTheFile(const RunTimeError& failure) {
+  constexpr int kCodes[] = {SQLITE_BUSY, SQLITE_READONLY, SQLITE_IOERR,   SQLITE_CORRUPT,
+                            SQLITE_FULL, SQLITE_CANTOPEN, SQLITE_PROTOCOL};
+  return std::ranges::find(kCodes, static_cast<int>(failure.number())) != std::end(kCodes);
+}
+
 void Run(sqlite3* database, const char* sql) {
   if (sqlite3_exec(database, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
     throw EngineError(database);
@@ -303,9 +314,19 @@ void Connection::EndGroup() {
   try {
     if (sqlite3_total_changes(database_.get()) != changes_before_) CountSave();
     Run(database_.get(), "COMMIT");
-  } catch (const RunTimeError&) {
+  } catch (const RunTimeError& failure) {
     if (InGroup()) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
-    throw;
+    throw CommitFailure(failure);
+  }
+}
+
+void Connection::BeginGroup() {
+  try {
+    if (IsEmptied()) throw Emptied();
+    Run(database_.get(), "BEGIN IMMEDIATE");
+    changes_before_ = sqlite3_total_changes(database_.get());
+  } catch (const RunTimeError& failure) {
+    throw CommitFailure(failure);
   }
 }
 
@@ -358,35 +379,29 @@ Connection::Statement Connection::Prepare(std::string_view statement) {
   const int code = sqlite3_prepare_v2(database_.get(), sql.c_str(),
                                       static_cast<int>(sql.size() + 1), &raw, &rest);
   Statement prepared(raw);
-  if (code != SQLITE_OK) Fail();
+  if (code != SQLITE_OK) Fail(!BeginsWith(Trim(statement), "select"));
   if (!prepared || !IsBlank({rest, static_cast<std::size_t>(sql.data() + sql.size() - rest)})) {
     throw RunTimeError(SQLITE_ERROR, "one statement runs at a time, and nothing may follow it");
   }
-  if (!sqlite3_stmt_readonly(raw) && !InGroup()) {
-    RequireContents();
-    Run(database_.get(), "BEGIN IMMEDIATE");
-    changes_before_ = sqlite3_total_changes(database_.get());
-  }
+  if (!sqlite3_stmt_readonly(raw) && !InGroup()) BeginGroup();
   return prepared;
 }
 
-void Connection::Fail() {
-  const RunTimeError failure = EngineError(database_.get());
-  if (failure.number() == SQLITE_ERROR) RequireContents();
+void Connection::Fail(bool writes) {
+  RunTimeError failure = EngineError(database_.get());
+  if (failure.number() == SQLITE_ERROR && IsEmptied()) failure = Emptied();
+  if (writes && IsOfTheFile(failure)) throw CommitFailure(failure);
   throw RunTimeError(failure);
 }
 
-void Connection::RequireContents() {
+bool Connection::IsEmptied() {
   const auto see_pages = [](void* pages, int, char** fields, char**) {
     *static_cast<std::string*>(pages) = fields[0];
     return 0;
   };
   std::string pages;
   sqlite3_exec(database_.get(), "PRAGMA page_count", see_pages, &pages, nullptr);
-  if (pages == "0") {
-    throw RunTimeError(SQLITE_CORRUPT,
-                       std::string(Explained(SQLITE_CORRUPT)) + " (it has become empty)");
-  }
+  return pages == "0";
 }
 
 void Connection::RequireSoundPages() {
@@ -395,7 +410,7 @@ void Connection::RequireSoundPages() {
 
 bool Connection::Step(sqlite3_stmt* statement) {
   const int code = sqlite3_step(statement);
-  if (code != SQLITE_ROW && code != SQLITE_DONE) Fail();
+  if (code != SQLITE_ROW && code != SQLITE_DONE) Fail(!sqlite3_stmt_readonly(statement));
   return code == SQLITE_ROW;
 }
 

@@ -22,7 +22,8 @@ using StatementObserver = std::function<void(std::string_view statement)>;
 //
 // Writing: the first statement that writes begins a group, EndGroup() commits it. Statements of a
 // group are separate: one that fails takes nothing back of those before it. Destroying the
-// connection ends the group.
+// connection ends the group. A statement that writes throws CommitFailure where it is not at fault
+// itself: what the file or the disk does not let in cannot be committed.
 //
 // A statement that takes far more work than any of the survey's is stopped and fails, whatever the
 // file holds.
@@ -50,7 +51,7 @@ class Connection {
   void Execute(std::string_view statement);
 
   // Commits what was written since the group began; nothing to do where nothing was written.
-  // When the commit fails the group is taken back as a whole and the failure thrown.
+  // When the commit fails the group is taken back as a whole and a CommitFailure thrown.
   void EndGroup();
 
   // Reads every page that is in use once; each bears its checksum. Throws RunTimeError when one is
@@ -83,10 +84,12 @@ class Connection {
 
   Statement Prepare(std::string_view statement);
   bool Step(sqlite3_stmt* statement);  // true while there is a row
-  [[noreturn]] void Fail();            // with what the engine reports
-  // Throws when the file has become empty under the connection: the engine would take it for a new
+  // Throws what the engine reports of a statement, one that `writes` or one that reads.
+  [[noreturn]] void Fail(bool writes);
+  void BeginGroup();  // throws CommitFailure
+  // Whether the file has become empty under the connection: the engine would take it for a new
   // database and write the beginning of one.
-  void RequireContents();
+  bool IsEmptied();
   // Throws when a page that the row in front goes on into could not be deciphered: the engine gives
   // zeros for such a page and remembers the failure until the next page is asked for.
   void RequireSoundPages();

@@ -278,7 +278,7 @@ bool FrmPage2::MaySave() {
 }
 
 void FrmPage2::SavePage() {
-  Trap(row().errors.save, [this] {
+  TrapStatements(row().errors.save, [this] {
     survey().Execute("UPDATE tbl_GeneralInformation set " +
                      Assignments(kUpdate, kAnswers, gridGeneralInfo) +
                      ",SurveyYear = " + NumberText(survey().SurveyYear) +

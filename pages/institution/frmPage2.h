@@ -21,7 +21,7 @@ class FrmPage2 : public SurveyPage {
  protected:
   Layout Body() override;
   void GetPage() override;
-  // Reports a failure itself, so that the mark is cleared after a failed save too.
+  // Reports a statement that fails itself, so that the mark is cleared after it too.
   void SavePage() override;
   bool MaySave() override;
 

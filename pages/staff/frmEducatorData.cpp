@@ -225,7 +225,8 @@ FrmEducatorData::FrmEducatorData(FormHost& host, const PageRow& page)
   MarkChangesOf(gridTraining);
   cmdSave.on_click = [this] {
     SavePage();
-    cmdSave.BackColor = kButtonFace;  // whatever became of the record
+    survey().EndStatements();
+    cmdSave.BackColor = kButtonFace;  // whatever the checks or the store refused of the record
     FormMode = "Edit";
   };
   cmdPrevious->on_click = [this] {
@@ -287,7 +288,7 @@ void FrmEducatorData::GetEducatorInformation(const std::string& id) {
 }
 
 void FrmEducatorData::SaveEducatorInformation() {
-  const auto save = [this] {
+  TrapStatements(kSaveRoutine, [this] {
     const std::string id = TextOf(gridgeneral, IsSouthAfrican() ? kIdNumber : kPassportNumber);
     if (!IsComplete(id)) return;
     Recordset stored;
@@ -296,8 +297,7 @@ void FrmEducatorData::SaveEducatorInformation() {
                     SqlEscape(EducatorId) + "'",
                 survey().DatabaseConnection.get());
     survey().Execute(stored.Eof() ? Insert(id) : Update(id));
-  };
-  Trap(kSaveRoutine, save, Commit::kWithHandler);
+  });
 }
 
 // Question 4.10. Throws TypeMismatch() where it is not answered.

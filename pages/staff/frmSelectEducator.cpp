@@ -89,12 +89,11 @@ FrmSelectEducator::FrmSelectEducator(FormHost& host)
   for (Button* button : {&cmdEdit, &cmdSpecialisation, &cmdStaffteaching, &cmdLoad, &cmdLoad2}) {
     button->on_click = [this, button] { OpenPageOfSelected(*button); };
   }
-  cmdPrint.on_click = [this] { Trap(kPrintListRoutine, [this] { PrintList(); }); };
-  cmdPrintSurvey.on_click = [this] { Trap(kPrintPagesRoutine, [this] { PrintPages(); }); };
+  cmdPrint.on_click = [this] { TrapPrint(kPrintListRoutine, [this] { PrintList(); }); };
+  cmdPrintSurvey.on_click = [this] { TrapPrint(kPrintPagesRoutine, [this] { PrintPages(); }); };
   cmdPrevious.on_click = [this] {
     FollowLink({"cmdPrevious", LastCampusPage(this->host().pages()), Guard::kNone,
                 Leaving::kShowThenUnload});
-    ;
   };
   cmdMenu.on_click = [this] {
     this->host().Get("frmMainMenu").Property("EditMode") = "Edit";

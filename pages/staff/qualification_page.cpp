@@ -1,5 +1,7 @@
 #include "pages/staff/qualification_page.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 
 namespace survey {
@@ -26,7 +28,9 @@ QualificationPage::QualificationPage(FormHost& host, const PageRow& page,
   gridQual.on_check = [this](int, int) { MarkUnsaved(); };
   cmdSave.on_click = [this] {
     try {
+      if (!MaySave()) return;
       SavePage();
+      survey().EndStatements();
       cmdSave.BackColor = kButtonFace;
     } catch (const RunTimeError& failure) {
       boxes().PlainBox(failure.what());
@@ -36,25 +40,48 @@ QualificationPage::QualificationPage(FormHost& host, const PageRow& page,
 
 void QualificationPage::Form_Load() {
   survey().OpenDatabaseConnection();
+  shown_ = {};
   Caption = "Lecturer Qualifications  ID Number:  " + EducatorId;
 }
 
 Layout QualificationPage::Body() { return Place(gridQual); }
 
 void QualificationPage::GetPage() {
-  TrapSilently([this] {
-    Recordset attained;
-    attained.Open("select * from tbl_staffqualificationtype where IDnumber = '" +
-                      OfThisStaffMemberOnAnySite(),
-                  survey().DatabaseConnection.get());
-    for (; !attained.Eof(); attained.MoveNext()) {
-      for (const Qualification& qualification : list_.rows) {
-        if (!attained.Field("qualificationtypeCD").Is(qualification.code)) continue;
-        gridQual.SetText(kTickColumn, qualification.row, kTicked);
-        gridQual.SetBackColor(kNameColumn, qualification.row, kYellow);
-        ShowDetails(attained);
-      }
+  shown_.complete = TrapSilently([this] {
+    for (Recordset attained = ReadAttained(); !attained.Eof(); attained.MoveNext()) {
+      const Qualification* qualification = QualificationOf(attained);
+      if (qualification == nullptr) continue;
+      gridQual.SetText(kTickColumn, qualification->row, kTicked);
+      gridQual.SetBackColor(kNameColumn, qualification->row, kYellow);
+      ShowDetails(attained);
+      shown_.keys.insert(NumberText(qualification->code));
     }
+  });
+}
+
+Recordset QualificationPage::ReadAttained() {
+  Recordset attained;
+  attained.Open(
+      "select * from tbl_staffqualificationtype where IDnumber = '" + OfThisStaffMemberOnAnySite(),
+      survey().DatabaseConnection.get());
+  return attained;
+}
+
+const Qualification* QualificationPage::QualificationOf(const Recordset& attained) const {
+  const Value& code = attained.Field("qualificationtypeCD");
+  const auto found = std::ranges::find_if(
+      list_.rows, [&](const Qualification& qualification) { return code.Is(qualification.code); });
+  return found == list_.rows.end() ? nullptr : &*found;
+}
+
+bool QualificationPage::MaySave() {
+  return MayReplace(shown_, [this] {
+    std::vector<std::string> codes;
+    for (Recordset attained = ReadAttained(); !attained.Eof(); attained.MoveNext()) {
+      const Qualification* qualification = QualificationOf(attained);
+      if (qualification != nullptr) codes.push_back(NumberText(qualification->code));
+    }
+    return codes;
   });
 }
 

@@ -36,7 +36,7 @@ struct QualificationDetails {
 
 // Question 4.25: the qualifications that a staff member has attained, one page twice over. Both
 // follow the person: they read and replace what was stored from any site. Neither says a word
-// when reading or storing fails.
+// when a statement that reads or stores fails.
 class QualificationPage : public StaffPage {
  public:
   double& EmisNumber = Declare<double>("EmisNumber");  // the college's; handed on, not read
@@ -51,13 +51,19 @@ class QualificationPage : public StaffPage {
   Layout Body() override;
   void GetPage() override;
   void SavePage() override;
+  bool MaySave() override;
 
   // What a half shows of a stored qualification besides its tick.
   virtual void ShowDetails(const Recordset&) {}
   virtual QualificationDetails DetailsToSave() const = 0;
 
  private:
+  Recordset ReadAttained();
+  // The qualification of this half that a stored record names; null for one of the other half.
+  const Qualification* QualificationOf(const Recordset& attained) const;
+
   const QualificationList& list_;
+  ShownRecords shown_;  // by their codes
 };
 
 }  // namespace survey

@@ -137,6 +137,7 @@ Layout FrmPage12_1::Body() {
 
 void FrmPage12_1::Form_Load() {
   SurveyPage::Form_Load();
+  shown_ = {};  // the catalogue is read first, and may fail
   Frame1.Caption = "Occupational Qualifications - Enter code to scroll list";
 }
 
@@ -151,40 +152,55 @@ void FrmPage12_1::Form_Activate() {
 // ---- The lines in the store ----------------------------------------------------------------
 
 void FrmPage12_1::GetPage() {
-  TrapSilently([this] {
+  shown_ = {};
+  shown_.complete = TrapSilently([this] {
     gridPage12_2.ClearRange(3, kFirstLine, 11, kLastLine);
     survey().OpenDatabaseConnection();
-    Recordset lines;
-    lines.Open(
-        "SELECT tbl_StudentRegistrationOccupational.CollegeEmisNumber, "
-        "tbl_StudentRegistrationOccupational.CampusEmisNumber, "
-        "tbl_StudentRegistrationOccupational.SurveyYear, "
-        "lst_OccupationalQualification.NQFID,lst_OccupationalQualification.NQFField, "
-        "lst_OccupationalQualification.QualificationTitle, "
-        "lst_OccupationalQualification.NQFLevel, tbl_StudentRegistrationOccupational.Quantity "
-        "FROM tbl_StudentRegistrationOccupational INNER JOIN lst_OccupationalQualification ON "
-        "tbl_StudentRegistrationOccupational.NQFID = lst_OccupationalQualification.NQFID where "
-        "CampusEMISNumber = " +
-            NumberText(survey().CampusEmisNumber) +
-            " and CollegeEMISNumber = " + NumberText(survey().CollegeEmisNumber) +
-            " order by lst_OccupationalQualification.NQFID,"
-            "lst_OccupationalQualification.NQFField",
-        survey().DatabaseConnection.get());
+    Recordset lines = ReadLines();
     for (int row = kFirstLine; !lines.Eof(); lines.MoveNext(), ++row) {
       gridPage12_2.SetText(3, row, lines.Field("NQFID").Text());
       gridPage12_2.SetText(4, row, lines.Field("QualificationTitle").Text());
       gridPage12_2.SetText(6, row, lines.Field("NQFField").Text());
       gridPage12_2.SetText(7, row, lines.Field("NQFLevel").Text());
       gridPage12_2.SetText(8, row, lines.Field("Quantity").Text());
+      shown_.keys.insert(lines.Field("NQFID").Text());
     }
   });
 }
 
+Recordset FrmPage12_1::ReadLines() {
+  Recordset lines;
+  lines.Open(
+      "SELECT tbl_StudentRegistrationOccupational.CollegeEmisNumber, "
+      "tbl_StudentRegistrationOccupational.CampusEmisNumber, "
+      "tbl_StudentRegistrationOccupational.SurveyYear, "
+      "lst_OccupationalQualification.NQFID,lst_OccupationalQualification.NQFField, "
+      "lst_OccupationalQualification.QualificationTitle, "
+      "lst_OccupationalQualification.NQFLevel, tbl_StudentRegistrationOccupational.Quantity "
+      "FROM tbl_StudentRegistrationOccupational INNER JOIN lst_OccupationalQualification ON "
+      "tbl_StudentRegistrationOccupational.NQFID = lst_OccupationalQualification.NQFID where "
+      "CampusEMISNumber = " +
+          NumberText(survey().CampusEmisNumber) +
+          " and CollegeEMISNumber = " + NumberText(survey().CollegeEmisNumber) +
+          " order by lst_OccupationalQualification.NQFID,"
+          "lst_OccupationalQualification.NQFField",
+      survey().DatabaseConnection.get());
+  return lines;
+}
+
 bool FrmPage12_1::MaySave() {
-  if (cmdOK.BackColor != kYellow) return true;
-  boxes().UserMessage(
-      "Please click on the OK button to retrieve any previous data before continuing.");
-  return false;
+  if (cmdOK.BackColor == kYellow) {
+    boxes().UserMessage(
+        "Please click on the OK button to retrieve any previous data before continuing.");
+    return false;
+  }
+  return MayReplace(shown_, [this] {
+    std::vector<std::string> ids;
+    for (Recordset lines = ReadLines(); !lines.Eof(); lines.MoveNext()) {
+      ids.push_back(lines.Field("NQFID").Text());
+    }
+    return ids;
+  });
 }
 
 // The lines of every year go, those of this year come: the table holds one set of lines a site.

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "forms/survey_page.h"
+#include "store/recordset.h"
 
 namespace survey {
 
@@ -53,12 +54,15 @@ class FrmPage12_1 : public SurveyPage {
     std::string level;
   };
 
+  Recordset ReadLines();
   void TypeAhead(char32_t character);
   void TakeChoice();
   std::optional<Qualification> ReadChoice();
   void EnterInFirstFreeLine(const Qualification& qualification);
   void MarkOldLevel(const std::string& level, int row);
   void RemoveLine();
+
+  ShownRecords shown_;  // by their NQF ids
 };
 
 }  // namespace survey

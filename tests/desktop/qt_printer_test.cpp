@@ -2,12 +2,14 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTimer>
+#include <csignal>
 
 #include "base/run_time_error.h"
 #include "desktop_driver.h"
@@ -104,6 +106,32 @@ TEST_F(QtPrinterTest, SaysThatAFileCannotBeWritten) {
   file_ = somewhere;
   printer_.ShowPrinter();
   PrintJob("after a failure");
+  EXPECT_EQ(Sheets(), "595x842");
+}
+
+TEST_F(QtPrinterTest, SaysThatAFileHasNotBecomeWhole) {
+  const auto expect_not_whole = [this] {
+    printer_.ShowPrinter();
+    PrintJob("lost");
+    EXPECT_THAT(
+        [this] { printer_.Finish(); },
+        Throws<RunTimeError>(AllOf(Property(&RunTimeError::number, 482),
+                                   Property(&RunTimeError::what, HasSubstr(file_.toStdString())))));
+    EXPECT_NO_THROW(printer_.Finish()) << "told once";
+  };
+  const QString somewhere = file_;
+  file_ = "/dev/full";
+  expect_not_whole();
+  file_ = somewhere;
+  signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+  const rlimit small{600, limit.rlim_max};  // of bytes, and of the file
+  setrlimit(RLIMIT_FSIZE, &small);
+  expect_not_whole();
+  setrlimit(RLIMIT_FSIZE, &limit);
+  printer_.ShowPrinter();
+  PrintJob("with room again");
   EXPECT_EQ(Sheets(), "595x842");
 }
 

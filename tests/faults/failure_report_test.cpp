@@ -1,5 +1,8 @@
 // What users read when a page cannot be filled, saved or printed, and what is left of their work.
 
+#include <cerrno>
+
+#include "faults/disk_faults.h"
 #include "faults/file_faults.h"
 #include "support/filled_site.h"
 #include "support/page_test.h"
@@ -77,6 +80,27 @@ void ExpectTold(FilledSite& site, const Told& told) {
   }
 }
 
+// What cannot be committed is told on every page, also where a failed statement is not, and the
+// mark that goes with a save stays.
+TEST(FailureReportTest, AFullDiskIsToldOnEveryPageAndLosesNoMark) {
+  for (const auto& [page, filled, saved, printed, marked] : kPages) {
+    SCOPED_TRACE(page);
+    FilledSite site;
+    Form& form = site.Open(page);
+    site.Fill(form, 1);
+    auto& save = form.Find<Button>("cmdSave");
+    save.BackColor = kYellow;
+    FailWritesFrom(1, ENOSPC);
+    site.Click(page, "cmdSave");
+    EndDiskFaults();
+    ASSERT_FALSE(site.dialogs.seen.empty());
+    EXPECT_THAT(site.dialogs.seen.back().prompt, HasSubstr("database or disk is full"));
+    if (saved.location != nullptr) ExpectTold(site, saved);
+    const bool cleared_before = site.host.PageOf(page).mark == MarkCleared::kBeforeSave;
+    EXPECT_EQ(save.BackColor == kYellow, !cleared_before);
+  }
+}
+
 TEST(FailureReportTest, BearsTheNamesUsersKnow) {
   std::vector<std::string> names;
   for (const FailuresOf& page : kPages) names.emplace_back(page.page);
@@ -93,6 +117,10 @@ TEST(FailureReportTest, BearsTheNamesUsersKnow) {
     site->Click(page, "cmdPrintPage");
     EXPECT_EQ(site->dialogs.seen.at(0).title, "Error : 32755");
     EXPECT_THAT(site->printer.operations, ElementsAre("ShowPrinter"));
+    ExpectTold(*site, printed);
+    site->printer.cancel = false;
+    site->printer.full = true;
+    site->Click(page, "cmdPrintPage");
     ExpectTold(*site, printed);
 
     site->Fill(form, 1);

@@ -168,6 +168,22 @@ TEST_F(EducatorData, AFailedLoadIsReportedByTheRoutineWithinToo) {
               ToldBy("frmEducatordata", "GetEducatorInformation Routine"));
 }
 
+TEST_F(EducatorData, ACommitThatFailsLeavesThePageUnsavedAndNew) {
+  Open("8001", "New");
+  Fill(kNeeded);
+  auto reader = HoldCommits();
+  EXPECT_THAT(SaveAndHear(), ToldBy(kPage, "cmdSave_Click"));
+  EXPECT_TRUE(Unsaved());
+  EXPECT_EQ(host.Get(kPage).Property("FormMode"), "New");
+  Click("cmdPrevious");
+  EXPECT_EQ(Front(), kPage) << "asks, and stays";
+  reader.reset();
+  dialogs.seen.clear();
+  EXPECT_EQ(SaveAndHear(), "");
+  EXPECT_FALSE(Unsaved());
+  EXPECT_EQ(host.Get(kPage).Property("FormMode"), "Edit");
+}
+
 TEST_F(EducatorData, BackAsksItsOwnQuestionAndNextAsksNothing) {
   Open("8001", "New");
   Type(7, 1, "1");

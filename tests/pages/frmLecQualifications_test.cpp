@@ -76,6 +76,28 @@ TEST_F(LecQualifications, TheTradeGoesWithEachTickAndIsLostWithoutOne) {
   EXPECT_EQ(Shown(table, {{2, 19}, {3, 20}}), "|");
 }
 
+TEST_F(LecQualifications, WhatCouldNotBeReadIsNotReplaced) {
+  const auto rename = [this](const std::string& from, const std::string& to) {
+    RunScript(("alter table " + from + " rename to " + to).c_str());
+  };
+  StoreAll(kInsert, {"101,202,2012,'8001',29,'','0',0", "101,202,2012,'8001',30,'','0',0"});
+  rename("tbl_StaffQualificationType", "gone");
+  GridControl& table = Open(kFirst);
+  EXPECT_TRUE(dialogs.seen.empty());
+  table.Tick(3, 3);
+  Save();
+  EXPECT_EQ(LastBox(), "no such table: tbl_staffqualificationtype");
+  rename("gone", "tbl_StaffQualificationType");
+  Save();
+  EXPECT_THAT(LastBox(), ::testing::HasSubstr("open the page anew"));
+  EXPECT_TRUE(Unsaved());
+  EXPECT_THAT(Query(kCodes), ElementsAre("29", "30"));
+  Store("Delete * from tbl_StaffQualificationType where QualificationTypeCD = 29");
+  Save();  // the other half's code is none of this page's
+  EXPECT_FALSE(Unsaved());
+  EXPECT_THAT(Query(kCodes), ElementsAre("30", "1"));
+}
+
 TEST_F(LecQualifications, TheHalvesLeadToEachOther) {
   Open(kSecond).Type(2, 19, "typed");  // not known as a change
   HeadlessProgram::Click(kSecond, "cmdNext");

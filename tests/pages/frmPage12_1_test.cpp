@@ -186,6 +186,39 @@ TEST_F(Page12_1, FailuresOfLinesAreSilentAndThoseOfTheCatalogueAreTold) {
   EXPECT_THAT(LastBox(), ToldBy(kPage, "cmdOK"));
 }
 
+TEST_F(Page12_1, LinesThatCouldNotBeReadAreNotReplaced) {
+  const auto spoil = [this] {
+    RunScript("alter table tbl_StudentRegistrationOccupational rename to gone");
+  };
+  const auto mend = [this] {
+    RunScript("alter table gone rename to tbl_StudentRegistrationOccupational");
+  };
+  StoreAll(kInsert, {"(101,202,125,3,2012", "(101,202,300,7,2012"});
+  spoil();
+  Reopen();
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  Take(100);
+  Type(8, 3, "1");
+  Save();
+  EXPECT_THAT(LastBox(), ToldBy(kPage, "SavePage Routine"));
+  mend();
+  Save();
+  EXPECT_THAT(LastBox(), ::testing::HasSubstr("open the page anew"));
+  EXPECT_TRUE(Unsaved());
+  EXPECT_THAT(Query(kRows), ElementsAre("125 3 2012", "300 7 2012"));
+  // Where nothing is stored there is nothing to lose, and a save is followed by another.
+  spoil();
+  Reopen();
+  mend();
+  Store("DELETE * FROM tbl_StudentRegistrationOccupational");
+  for (const int id : {100, 125}) {
+    Take(id);
+    Save();
+  }
+  EXPECT_THAT(dialogs.seen, IsEmpty());
+  EXPECT_THAT(Query(kRows), ElementsAre("100 0 2012", "125 0 2012"));
+}
+
 // The user in the dialog over the page: fills it (-1: leaves a list alone) and saves.
 void SaveNew(Form& form, int field, const char* id, const char* title, int level) {
   if (field >= 0) form.Find<ComboBox>("cboField").Choose(field);

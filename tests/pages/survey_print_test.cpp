@@ -114,6 +114,9 @@ TEST_F(SurveyPrint, AFailureIsToldOnceAndLeavesOutTheRestAsAStopDoes) {
   expect_failure_after(0);
   EXPECT_EQ(survey.SurveyYear, 2012);
   printer.cancel = false;
+  printer.full = true;
+  expect_failure_after(16);
+  printer.full = false;
   RunScript("alter table tbl_StudentRegistration rename to gone");
   expect_failure_after(4);  // within the page's own trap
   RunScript("alter table tbl_Hostels rename to gone_too");
@@ -158,10 +161,10 @@ TEST_F(SurveyPrint, PrintsAllStaffInOneJobWithoutThoseWhoHaveNoId) {
   EXPECT_EQ(CountOf("EndDoc"), 1);
   EXPECT_EQ(dialogs.steps_seen[1], "Print Full Staff Survey: 1/3 S2  ");
   EXPECT_THAT(dialogs.seen, IsEmpty());
+  EXPECT_EQ(Table().ChosenRow(), 0);
   Click("cmdEdit");
   EXPECT_EQ(LastBox(), "Please select a staff member to continue");
 
-  EXPECT_EQ(Table().ChosenRow(), 0);
   printer.operations.clear();
   dialogs.stop_at = 2;
   Click("cmdPrintSurvey");
@@ -185,13 +188,21 @@ TEST_F(SurveyPrint, NobodySelectedOrAFailureOfOnePageIsTold) {
   EXPECT_THAT(LastBox(), ToldBy("frmselecteducator", "Print Routine"));
   EXPECT_EQ(std::tuple(CountOf("NewPage"), CountOf("EndDoc")), std::tuple(5, 0));
   ExpectNothingLoadedBut(kList);
+  EXPECT_EQ(Table().ChosenRow(), 3);
   Click("cmdEdit");  // whose print failed is selected
   EXPECT_EQ(host.Front()->Property("EducatorId"), "7502");
   host.CloseBox(*host.Front());
-  EXPECT_EQ(Table().ChosenRow(), 3);
   printer.cancel = true;
   Click("cmdPrint");
   EXPECT_THAT(LastBox(), ToldBy("frmSelectEducator", "Print Routine"));
+  printer.cancel = false;
+  printer.full = true;  // found out when all is printed
+  printer.on_draw = {};
+  for (const auto& [button, form] :
+       {std::pair{"cmdPrint", "frmSelectEducator"}, {"cmdPrintSurvey", "frmselecteducator"}}) {
+    Click(button);
+    EXPECT_THAT(LastBox(), ToldBy(form, "Print Routine"));
+  }
 }
 
 TEST_F(SurveyPrint, PrintsTheListOverAllItsPages) {

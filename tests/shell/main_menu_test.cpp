@@ -103,7 +103,7 @@ TEST_F(MainMenu, ASiteIsPickedThroughProvinceCollegeAndCampusAndClaimed) {
   }
 }
 
-TEST_F(MainMenu, AClaimedSiteIsNotClaimedTwiceAndAFailedClaimIsSilent) {
+TEST_F(MainMenu, AClaimedSiteIsNotClaimedTwiceAndAFailedClaimIsSilentButNotItsCommit) {
   const std::string fresh = "update tbl_GeneralInformation set SurveyYear = ";
   StartAdding();
   Pick(kCampus);
@@ -112,10 +112,17 @@ TEST_F(MainMenu, AClaimedSiteIsNotClaimedTwiceAndAFailedClaimIsSilent) {
   EXPECT_EQ(LastBox(),
             "The campus or college that you have selected already exists in the database. Return "
             "to the institution list and select the institution for editing.");
+  RunScript((fresh + "'2011'").c_str());
+  auto reader = HoldCommits();
+  Click(kMenu, "cmdContinue");
+  EXPECT_THAT(LastBox(),
+              ::testing::EndsWith("\r\nLocation: frmMainMenu\r\nProcedure: cmdContinue_Click"));
+  EXPECT_TRUE(Picking());
+  EXPECT_EQ(survey.CampusEmisNumber, 0);
+  reader.reset();
   survey.DatabaseConnection->ExecuteScript(
-      (fresh + "'2011'; create temp trigger refuse before update on tbl_GeneralInformation begin "
-               "select raise(abort, 'refused'); end")
-          .c_str());
+      "create temp trigger refuse before update on tbl_GeneralInformation begin "
+      "select raise(abort, 'refused'); end");
   Click(kMenu, "cmdContinue");
   EXPECT_THAT(dialogs.seen, IsEmpty());
   EXPECT_TRUE(Picking());

@@ -129,6 +129,10 @@ int FakePrinter::OwnerPrintPageCount(const Grid& grid, double left, double top, 
   return pages;
 }
 
+void FakePrinter::Finish() {
+  if (full) throw RunTimeError(482, "Printer error");
+}
+
 HeadlessProgram::HeadlessProgram() : host(survey, {dialogs, printer, settings, program_folder}) {
   program_folder.path = folder.path();
   fs::copy_file(TemplateFile(), folder.path() / kTemplateFile);
@@ -180,6 +184,13 @@ std::vector<std::string> HeadlessProgram::Query(const std::string& statement) {
 void HeadlessProgram::RunScript(const char* script) {
   CipherKeys keys;
   Connection::Open(survey.DatabasePath, DatabasePassword(), keys)->ExecuteScript(script);
+}
+
+std::unique_ptr<Connection> World::HoldCommits() {
+  CipherKeys keys;
+  auto reader = Connection::Open(survey.DatabasePath, DatabasePassword(), keys);
+  reader->ExecuteScript("BEGIN; select count(*) from lst_province");
+  return reader;
 }
 
 const fs::path& TemplateFile() {

@@ -81,11 +81,13 @@ struct FakePrinter : Printer {
                           double bottom) override;
   void NewPage() override { operations.push_back("NewPage"); }
   void EndDoc() override { operations.push_back("EndDoc"); }
+  void Finish() override;
 
   std::vector<std::string> operations;
   std::string job;      // the last choice was for
   bool cancel = false;  // the user cancels the dialog
   bool broken = false;  // fails at the first text
+  bool full = false;    // fails when all is printed
   int pages = 1;        // that a grid needs
   std::function<void(const Grid&)> on_draw;
 };
@@ -115,6 +117,8 @@ class HeadlessProgram : public FormsView {
   // The column r of a query's rows, read through a second connection.
   std::vector<std::string> Query(const std::string& statement);
   void RunScript(const char* script);  // on a second connection, in the engine's own SQL
+  // Another copy that reads as long as the answer lives: statements run, and no commit.
+  std::unique_ptr<Connection> HoldCommits();
 
   TemporaryFolder folder;
   FakeDialogs dialogs;

@@ -70,8 +70,9 @@ class OneFile : public QtPrinter {
     if (!shown_) QtPrinter::ShowPrinter(job);
     shown_ = true;
   }
+  void Finish() override {}
   void Complete() {
-    Finish();
+    QtPrinter::Finish();
     shown_ = false;
   }
 
