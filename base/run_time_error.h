@@ -20,9 +20,9 @@ class RunTimeError : public std::runtime_error {
   double number_;
 };
 
-// What was written could not be put on the disk: it is full, or the file is locked, gone or damaged.
-// Whichever statement meets it, it is the commit that fails. A statement that the engine refuses for
-// what it says is none of these.
+// What was written could not be put on the disk: it is full, or the file is locked, gone or
+// damaged. Whichever statement meets it, it is the commit that fails. A statement that the engine
+// refuses for what it says is none of these.
 class CommitFailure : public RunTimeError {
  public:
   explicit CommitFailure(const RunTimeError& failure) : RunTimeError(failure) {}

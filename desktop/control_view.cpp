@@ -265,7 +265,7 @@ class TextBoxWidget : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override {
     box_.KeyDown();
     if (IsEnter(*event)) {
-      GoOn();
+      if (!event->isAutoRepeat()) GoOn();
     } else if (event->key() != Qt::Key_Backspace || TakesBackspace()) {
       QLineEdit::keyPressEvent(event);
     }

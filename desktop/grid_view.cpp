@@ -371,11 +371,12 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
-  pressing_ = true;
+  pressing_ = pressed_ = true;
   QTableView::mousePressEvent(event);
 }
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (!pressed_) return;  // the first press was on the button that has led here
   const Cell cell = GridModel::CellAt(indexAt(event->pos()));
   goes_on_ = list_ && !grid_.GetText(1, cell.row).empty();
   QTableView::mouseDoubleClickEvent(event);

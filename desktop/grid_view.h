@@ -109,6 +109,7 @@ class GridView : public QTableView {
   std::uint64_t shown_ = 0;  // revision of the grid
   bool following_ = false;   // code moves the cursor, not the user
   bool pressing_ = false;    // the mouse does
+  bool pressed_ = false;     // and has done so before
   bool goes_on_ = false;     // the mouse is down in a double click on an entry of a list
   QPoint released_at_;
 };

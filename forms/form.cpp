@@ -57,8 +57,7 @@ void Form::SetFocus(GridControl& grid, Cell cell) {
 }
 
 void Form::ChoosePrinter(const std::string& what, const std::string& staff_id) {
-  const std::u8string database = ToPath(survey().DatabasePath).stem().u8string();
-  std::string job = std::string(database.begin(), database.end()) + " " + what;
+  std::string job = Utf8(ToPath(survey().DatabasePath).stem()) + " " + what;
   if (!staff_id.empty()) job += " " + staff_id;
   host_.platform().printer.ShowPrinter(job);
 }

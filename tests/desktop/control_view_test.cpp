@@ -111,6 +111,13 @@ TEST_F(ControlViewTest, TypingAheadShowsTheTextAndSelectionOfTheControl) {
   EXPECT_EQ(line.text(), "100900 entry") << "a character that leads nowhere is dropped";
   user_->Press(Qt::Key_Return);
   EXPECT_EQ(sample().cboSearch.ListIndex(), 900);
+  EXPECT_EQ(line.selectedText(), "100900 entry") << "what is typed now begins anew";
+  EXPECT_EQ(line.cursorPosition(), 0) << "and the beginning stays in sight";
+  user_->Type("10");
+  EXPECT_EQ(line.text(), "100000 entry");
+  user_->Press(Qt::Key_Tab);
+  EXPECT_FALSE(user_->The<QComboBox>("cboSearch").view()->isVisible());
+  EXPECT_EQ(&user_->Focus(), &user_->Find("cboChoice"));
 }
 
 TEST_F(ControlViewTest, AListToChooseFromKeepsItsTextUntilOneIsChosen) {
@@ -128,6 +135,11 @@ TEST_F(ControlViewTest, AListToChooseFromKeepsItsTextUntilOneIsChosen) {
   EXPECT_EQ(sample().cboChoice.Text(), "first");
   user_->Choose("cboChoice", "third");
   EXPECT_EQ(sample().cboChoice.Text(), "third");
+  user_->Press(Qt::Key_F4);
+  user_->Type("SE");  // in the open list it finds
+  user_->Press(Qt::Key_Tab);
+  EXPECT_EQ(sample().cboChoice.Text(), "second");
+  EXPECT_EQ(&user_->Focus(), &user_->Find("optYes"));
 }
 
 TEST_F(ControlViewTest, ListsAndButtonsWorkByKeyAndDisabledOnesDoNot) {

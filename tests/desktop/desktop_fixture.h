@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -41,6 +44,19 @@ class DesktopTest : public ::testing::Test {
     survey().OpenDatabaseConnection();
     desktop_->host().Get("frmMainMenu").Property("EditMode") = "Edit";
     desktop_->host().Start(form);
+  }
+
+  // What a mouse sends that is pressed twice where `first` shows: both presses count as one double
+  // click, whatever widget `second` finds there by then.
+  static void DoubleClick(QWidget& first, const std::function<QWidget*()>& second, QPoint place) {
+    QTest::mouseClick(&first, Qt::LeftButton, {}, place);
+    QTest::mouseDClick(second(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(second(), Qt::LeftButton, {}, place);
+  }
+  // On the first entry of a list.
+  void DoubleClickList(const std::string& list) {
+    QWidget* viewport = user_->The<QAbstractItemView>(list).viewport();
+    DoubleClick(*viewport, [=] { return viewport; }, {20, 8});
   }
 
   // Waits for a box of this caption and text, and answers it.

@@ -1,3 +1,7 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 
 #include "desktop/qt_dialogs.h"
@@ -18,6 +22,8 @@ TEST_F(DesktopTest, ANewDatabaseIsNamedInADialogOfItsOwn) {
     ExpectBox("Corvale Annual Survey", "Please enter a Database name.", false);
     user_->Click("cmdOk");
     EXPECT_EQ(&user_->Focus(), &user_->Find("txtDatabaseName"));
+    user_->Press(Qt::Key_Escape);  // its Exit would end the program
+    EXPECT_TRUE(dialog.isVisible());
     // ENTER goes on to the button, and presses it.
     user_->Type("Free");
     user_->Press(Qt::Key_Return);
@@ -81,6 +87,9 @@ TEST_F(DesktopTest, SavingAndLeavingTakeWhatIsStillBeingTyped) {
   user_->Press(Qt::Key_S, Qt::ControlModifier);
   EXPECT_NE(ColorOf("cmdSave"), QColor(Qt::yellow));
   EXPECT_EQ(&user_->Focus(), &user_->Find("gridEnrolment")) << "typing goes on where it was";
+  DoubleClick(user_->Find("cmdNext"), [this] { return &user_->Find("cmdNext"); }, {9, 9});
+  EXPECT_EQ(Front(), "frmPage5") << "and not a page further";
+  user_->Press(Qt::Key_PageUp, Qt::ControlModifier);
   user_->Press(Qt::Key_PageDown, Qt::ControlModifier);
   EXPECT_EQ(Front(), "frmPage5");
   user_->Type("7");
@@ -96,6 +105,89 @@ TEST_F(DesktopTest, SavingAndLeavingTakeWhatIsStillBeingTyped) {
   user_->Press(Qt::Key_Return);
   desktop_->view().window().close();  // asks nothing
   EXPECT_TRUE(ended_);
+}
+
+TEST_F(DesktopTest, ADoubleClickInAListGoesOnToWhatIsChosen) {
+  OpenSiteAt("frmSelectEducator");
+  for (const char* statement :
+       {"insert into tbl_StaffDetail(CollegeEmisNumber,CampusEmisNumber,IDNumber,Surname)values("
+        "199010830,108107587,'7501','Adams')",
+        "update tbl_GeneralInformation set SurveyYear = '2012' where CampusEmisNumber = 108107587"})
+    survey().Execute(statement);
+  survey().EndStatements();
+  std::filesystem::create_directory(folder_.path() / "Data2012");
+  std::filesystem::copy_file(folder_.path() / "site.mdb", folder_.path() / "Data2012/North.mdb");
+  desktop_->host().Start("frmSelectDatabase");
+  user_->Click("chkExisting");
+  DoubleClickList("lstFiles");
+  ASSERT_EQ(Front(), "frmSelectCollege");
+  DoubleClickList("gridcollege");
+  ASSERT_EQ(Front(), "frmMainMenu");
+  user_->Click("cmdStaff");
+  DoubleClickList("gridEducator");
+  ASSERT_EQ(Front(), "frmEducatorData");
+  EXPECT_EQ(user_->CellText("gridgeneral", 2, 7), "7501");
+  user_->Click("cmdPrevious");
+  EXPECT_EQ(&user_->Focus(), &user_->Find("gridEducator")) << "back where staff are chosen";
+}
+
+TEST_F(DesktopTest, BrowsingBeginsInTheDataFolderAndAnswersInTheProgramsWords) {
+  desktop_->host().Start("frmSelectDatabase");
+  user_->OnDialog([this](QWidget& dialog) {
+    auto& files = dynamic_cast<QFileDialog&>(dialog);
+    EXPECT_EQ(files.directory(), QDir(folder_.path() / "Data2012"));
+    auto* name = files.findChild<QLineEdit*>("fileNameEdit");
+    EXPECT_EQ(name->text(), "");
+    name->setText("nowhere");
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  user_->OnBox([](QMessageBox& box) { EXPECT_TRUE(box.text().contains("Database Access Error")); },
+               "OK");
+  ExpectBox("User Message", "The database you have selected is not the correct database.");
+  user_->Click("cmdBrowse");
+  EXPECT_EQ(user_->The<QLineEdit>("txtpath").text(), "");
+}
+
+TEST_F(DesktopTest, EscInADialogPressesItsCancelWithItsQuestion) {
+  OpenSiteAt("frmPage12_1");
+  user_->OnDialog([this](QWidget& dialog) {
+    user_->Type("txtTitle", "Bee keeping");
+    for (const char* answer : {"No", "Yes"}) {
+      EXPECT_TRUE(dialog.isVisible());
+      ExpectBox("Data has NOT been Saved", kUnsaved, true, answer);
+      user_->Press(Qt::Key_Escape);
+    }
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  user_->Click("cmdAdd");
+  EXPECT_EQ(Front(), "frmPage12_1");
+}
+
+TEST_F(DesktopTest, ENTERSearchesASubjectAndATextTicksTheBoxBesideIt) {
+  OpenSiteAt("frmEducatorTeaching");
+  user_->Type("txtSearch", "no such subject");
+  ExpectBox("User Message", "The subject could not be located");
+  user_->Press(Qt::Key_Return);
+  OpenSiteAt("frmHostels");
+  user_->ClickCell("gridSETA", 2, 3);
+  EXPECT_EQ(user_->CellText("gridSETA", 3, 3), "1");
+  OpenSiteAt("frmLecQualifications1");
+  const auto& table = user_->The<GridView>("gridQual");
+  QTest::mouseClick(table.verticalHeader()->viewport(), Qt::LeftButton, {},
+                    {table.verticalHeader()->width() / 2, table.rowViewportPosition(2) + 5});
+  EXPECT_EQ(user_->CellText("gridQual", 3, 3), "1");
+}
+
+TEST_F(DesktopTest, AboutShowsTheWholeDisclaimerAndClosesByEsc) {
+  OpenSiteAt("frmMainMenu");
+  user_->OnDialog([this](QWidget& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "About Corvale Annual Survey");
+    EXPECT_EQ(dialog.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
+    user_->Press(Qt::Key_Escape);
+  });
+  user_->Click("cmdDisclaimer");
+  EXPECT_EQ(Front(), "frmMainMenu");
+  EXPECT_FALSE(ended_);
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QTimer>
 #include <csignal>
@@ -27,7 +29,7 @@ using ::testing::Throws;
 class QtPrinterTest : public ::testing::Test {
  protected:
   QtPrinterTest() {
-    printer_.ShowPrinter();
+    printer_.ShowPrinter("one");
     printer_.SetFont("Times New Roman", 12, true);
   }
 
@@ -68,7 +70,7 @@ TEST_F(QtPrinterTest, GathersTheJobsOfOneChoiceInOneFile) {
   printer_.EndDoc();
   EXPECT_EQ(Sheets(), "595x842 842x595 842x595 842x595");
 
-  printer_.ShowPrinter();  // a new choice, the same file
+  printer_.ShowPrinter("two");  // a new choice, the same file
   PrintJob("five");
   EXPECT_EQ(Sheets(), "842x595") << "the orientation stays in force";
 }
@@ -99,12 +101,12 @@ TEST_F(QtPrinterTest, BreaksAGridBetweenRowsAndColumns) {
 TEST_F(QtPrinterTest, SaysThatAFileCannotBeWritten) {
   const QString somewhere =
       std::exchange(file_, QString::fromStdString((folder_.path() / "none" / "x.pdf").string()));
-  printer_.ShowPrinter();
+  printer_.ShowPrinter("survey");
   EXPECT_THAT([this] { printer_.Print("lost"); },
               Throws<RunTimeError>(AllOf(Property(&RunTimeError::number, 482),
                                          Property(&RunTimeError::what, HasSubstr("x.pdf")))));
   file_ = somewhere;
-  printer_.ShowPrinter();
+  printer_.ShowPrinter("survey");
   PrintJob("after a failure");
   EXPECT_EQ(Sheets(), "595x842");
 }
@@ -135,20 +137,23 @@ TEST_F(QtPrinterTest, SaysThatAFileHasNotBecomeWhole) {
   EXPECT_EQ(Sheets(), "595x842");
 }
 
-TEST_F(QtPrinterTest, CancelPrintsNothing) {
+TEST_F(QtPrinterTest, TheDialogProposesTheNameOfTheJobAndCancelPrintsNothing) {
   file_.clear();
-  bool asked = false;
+  QString proposed;
   QTimer cancel;
   QObject::connect(&cancel, &QTimer::timeout, qApp, [&] {
     if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-      asked = true;
+      proposed = dialog->findChild<QLineEdit*>("filename")->text();
       dialog->reject();
     }
   });
   cancel.start(20);
-  EXPECT_THAT([this] { printer_.ShowPrinter(); },
-              Throws<RunTimeError>(Property(&RunTimeError::number, 32755)));
-  EXPECT_TRUE(asked);
+  QtPrinter unused{PrintInto(file_)};
+  for (QtPrinter* printer : {&printer_, &unused}) {  // after a file of another name, and at first
+    EXPECT_THAT([&] { printer->ShowPrinter("North table 4.25 A/1"); },
+                Throws<RunTimeError>(Property(&RunTimeError::number, 32755)));
+    EXPECT_EQ(QFileInfo(proposed).fileName(), "North table 4.25 A-1.pdf");
+  }
 }
 
 }  // namespace

@@ -48,6 +48,7 @@ TEST_F(ControlTotalsOfPages, TheColourStaysUntilTheSaveAndTheControlTotalUntilTh
   EXPECT_EQ(Note(), "\u22605 less than the control table (5).");
   Type(4, 4, "5");
   EXPECT_EQ(Total(), kRed);
+  EXPECT_EQ(Note(), "") << "it spoke of other figures";
   Save();
   EXPECT_EQ(Total(), kGreen);
   EXPECT_EQ(Note(), "=Balances with the control table.");

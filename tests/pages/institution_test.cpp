@@ -98,6 +98,7 @@ TEST_F(Page2, WhatIsCompulsoryIsAskedForInOrder) {
   constexpr char kQuestion[] = "Please complete question 1.14 to continue";
   Type(7, 20, "3");
   EXPECT_EQ(SaveAndRead(), kAddress);
+  EXPECT_EQ(Table().ActiveRow(), 10);
   for (const auto& [column, row, text, request] :
        {std::tuple{4, 10, "Main Road", kAddress},
         {4, 11, " ", "Please complete the name of the principal or campus manager to continue"},
@@ -105,7 +106,9 @@ TEST_F(Page2, WhatIsCompulsoryIsAskedForInOrder) {
         {7, 19, "0", kQuestion}}) {  // as an older record holds it
     Table().SetText(column, row, text);
     EXPECT_EQ(SaveAndRead(), request);
+    EXPECT_EQ(host.Front()->TakeFocusRequest(), &Table());
   }
+  EXPECT_EQ(std::pair(Table().ActiveColumn(), Table().ActiveRow()), std::pair(7, 19));
   EXPECT_THAT(statements, IsEmpty());
   EXPECT_TRUE(Type(7, 19, "2") && Type(7, 20, ""));
   EXPECT_EQ(SaveAndRead(), "");

@@ -131,6 +131,7 @@ TEST_F(SurveyPrint, AFailureIsToldOnceAndLeavesOutTheRestAsAStopDoes) {
 TEST_F(SurveyPrint, PrintsTheSixPagesOfTheSelectedAsOneJob) {
   Table().Click(1, 1);
   Click("cmdPrintSurvey");
+  EXPECT_EQ(printer.job, "survey staff survey 7501");
   const std::string rest = " 11906 16838 page 1";
   EXPECT_THAT(
       printer.operations,

@@ -180,6 +180,11 @@ TEST_F(SelectDatabase, BrowseTakesAGoodDatabaseAndRefusesAWrongFile) {
   EXPECT_EQ(LastBox(), "The database you have selected is not the correct database.");
   EXPECT_EQ(Path(), "");
   EXPECT_EQ(fs::file_size(Data() / "letter.mdb"), 14u);
+  EXPECT_EQ(dialogs.folder_seen, Data());
+  dialogs.file = (folder.path() / kTemplateFile).string();
+  Click(kForm, "cmdBrowse");
+  EXPECT_EQ(dialogs.seen.size(), 1u);
+  EXPECT_EQ(LastBox() + Path(), "The database you have selected is not the correct database.");
   dialogs.file = (Data() / "North.mdb").string();
   Click(kForm, "cmdBrowse");
   EXPECT_EQ(LastBox(), "");
