@@ -3,6 +3,9 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "desktop/qt_dialogs.h"
 #include "desktop_fixture.h"

@@ -113,7 +113,7 @@ TEST_F(QtPrinterTest, SaysThatAFileCannotBeWritten) {
 
 TEST_F(QtPrinterTest, SaysThatAFileHasNotBecomeWhole) {
   const auto expect_not_whole = [this] {
-    printer_.ShowPrinter();
+    printer_.ShowPrinter("survey");
     PrintJob("lost");
     EXPECT_THAT(
         [this] { printer_.Finish(); },
@@ -132,7 +132,7 @@ TEST_F(QtPrinterTest, SaysThatAFileHasNotBecomeWhole) {
   setrlimit(RLIMIT_FSIZE, &small);
   expect_not_whole();
   setrlimit(RLIMIT_FSIZE, &limit);
-  printer_.ShowPrinter();
+  printer_.ShowPrinter("survey");
   PrintJob("with room again");
   EXPECT_EQ(Sheets(), "595x842");
 }

@@ -112,7 +112,9 @@ TEST_F(EducatorData, ChecksComeInTheirOrder) {
     Fill(kNeeded);
     Table().SetText(last.column, last.row, last.text);
     EXPECT_EQ(SaveAndHear(), told);
-    if (!told.empty()) EXPECT_EQ(Table().ActiveRow(), last.row);
+    if (!told.empty()) {
+      EXPECT_EQ(Table().ActiveRow(), last.row);
+    }
   }
   // A citizen's number is no passport's, a passport's would do for a citizen.
   Open("8001", "Edit");

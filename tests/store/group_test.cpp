@@ -11,8 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 
-using testing::ElementsAre;
-
 constexpr const char* kCount = "select count(*) from tbl_StudentEnrolment";
 
 class GroupTest : public StoreTest {

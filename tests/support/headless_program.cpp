@@ -186,7 +186,7 @@ void HeadlessProgram::RunScript(const char* script) {
   Connection::Open(survey.DatabasePath, DatabasePassword(), keys)->ExecuteScript(script);
 }
 
-std::unique_ptr<Connection> World::HoldCommits() {
+std::unique_ptr<Connection> HeadlessProgram::HoldCommits() {
   CipherKeys keys;
   auto reader = Connection::Open(survey.DatabasePath, DatabasePassword(), keys);
   reader->ExecuteScript("BEGIN; select count(*) from lst_province");
