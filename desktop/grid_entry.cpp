@@ -131,6 +131,7 @@ void GridEntry::Show(const Entry& entry) const {
 void GridEntry::Close() {
   if (!IsOpen()) return;
   note_.Hide();
+  const QScopedValueRollback closing(submitting_, true);  // the focus that leaves ends nothing more
   Q_EMIT closeEditor(line_, RevertModelCache);
 }
 

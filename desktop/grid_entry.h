@@ -75,7 +75,7 @@ class GridEntry : public QStyledItemDelegate {
   bool over_ = false;
   bool kept_press_ = false;  // of the mouse, whose release is kept too
   // Qt makes the line, and has it submitted, in const functions.
-  mutable bool submitting_ = false;
+  mutable bool submitting_ = false;        // or closing: nothing else is to be done with the line
   mutable QPointer<EntryLine> line_;       // null while nothing is typed; the view owns it
   mutable Cell cell_;                      // that it types into
   mutable std::optional<QString> before_;  // what it held when typing began

@@ -177,7 +177,7 @@ std::optional<Cell> Grid::NextOpenCell(Cell from) const {
   const int columns = MaxColumns();
   const int start = (from.row - 1) * columns + std::clamp(from.column, 0, columns);
   for (int position = std::max(start, 0); position < std::ssize(cells_); ++position) {
-    if (IsStop(position)) return CellOf(position);
+    if (IsToFill(CellOf(position).column, CellOf(position).row)) return CellOf(position);
   }
   return std::nullopt;
 }
@@ -186,7 +186,7 @@ std::optional<Cell> Grid::PreviousOpenCell(Cell from) const {
   const int columns = MaxColumns();
   const int start = (from.row - 1) * columns + std::clamp(from.column, 1, columns + 1) - 2;
   for (int position = std::min(start, columns * rows_ - 1); position >= 0; --position) {
-    if (IsStop(position)) return CellOf(position);
+    if (IsToFill(CellOf(position).column, CellOf(position).row)) return CellOf(position);
   }
   return std::nullopt;
 }
@@ -310,9 +310,8 @@ Cell Grid::CellOf(int position) const {
   return {position % MaxColumns() + 1, position / MaxColumns() + 1};
 }
 
-bool Grid::IsStop(int position) const {
-  const Cell cell = CellOf(position);
-  return IsOpen(cell.column, cell.row) && !index_.At(position).rule->passed_over;
+bool Grid::IsToFill(int column, int row) const {
+  return IsOpen(column, row) && !DesignOf(column, row).rule->passed_over;
 }
 
 bool Grid::IsCovered(int column, int row) const {

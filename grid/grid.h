@@ -85,6 +85,8 @@ class Grid {
   // The cell takes typing or ticking: unlocked, of a kind that takes something, and shown, that is,
   // in a column with a width, in no hidden row and not drawn as part of another cell.
   bool IsOpen(int column, int row) const;
+  // The cell is one to be filled in: open, and not passed over by ENTER.
+  bool IsToFill(int column, int row) const;
   bool IsRowHidden(int row) const;
   // What a page painted the cell with, else the design's shade, grey when locked, or white.
   Color BackColor(int column, int row) const;
@@ -155,7 +157,6 @@ class Grid {
   void Compute(const DesignIndex::TotalCell& total) const;
   bool IsCovered(int column, int row) const;
   Cell CellOf(int position) const;
-  bool IsStop(int position) const;
   std::string_view WhyClosed(int column, int row) const;
   Entry EntryByUser(Action action, const std::function<Entry()>& enter);
   Entry TakeText(int column, int row, std::string_view text);

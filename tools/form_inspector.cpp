@@ -158,7 +158,7 @@ void FormInspector::ListenToCells(const Grid& grid, QWidget& widget) {
   std::set<QString> names;
   for (int row = 1; row <= grid.MaxRows(); ++row) {
     for (int column = 1; column <= grid.MaxColumns(); ++column) {
-      if (!grid.IsOpen(column, row)) continue;
+      if (!grid.IsToFill(column, row)) continue;
       const QString name = CellName(grid, {column, row});
       Require(!name.contains("row "), widget, name.toStdString() + " is a number alone");
       Require(names.insert(name).second, widget, "two cells are called " + name.toStdString());

@@ -182,6 +182,7 @@ int alerts = 0;
 void CountAlerts(QAccessibleEvent* event) { alerts += event->type() == QAccessible::Alert; }
 
 TEST_F(TableEntryTest, AnImpossibleTextIsToldAtOnceAndUntilItIsPutRight) {
+  QAccessible::setActive(true);
   const auto before = QAccessible::installUpdateHandler(CountAlerts);
   Go(1, "12");
   user_->Type("1");

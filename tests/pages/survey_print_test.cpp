@@ -119,7 +119,7 @@ TEST_F(SurveyPrint, AFailureIsToldOnceAndLeavesOutTheRestAsAStopDoes) {
   printer.full = false;
   RunScript("alter table tbl_StudentRegistration rename to gone");
   expect_failure_after(4);  // within the page's own trap
-  RunScript("alter table tbl_Hostels rename to gone_too");
+  RunScript("drop table tbl_Hostels");
   expect_failure_after(1);  // within none
   dialogs.stop_at = 1;
   PrintSurvey();
@@ -131,7 +131,7 @@ TEST_F(SurveyPrint, AFailureIsToldOnceAndLeavesOutTheRestAsAStopDoes) {
 TEST_F(SurveyPrint, PrintsTheSixPagesOfTheSelectedAsOneJob) {
   Table().Click(1, 1);
   Click("cmdPrintSurvey");
-  EXPECT_EQ(printer.job, "survey staff survey 7501");
+  EXPECT_EQ(printer.job, "site staff survey 7501");
   const std::string rest = " 11906 16838 page 1";
   EXPECT_THAT(
       printer.operations,

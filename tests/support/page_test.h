@@ -85,7 +85,7 @@ class PageTest : public HeadlessProgram, public ::testing::Test {
     }
     return statements;
   }
-  // The cells that are open are those of `blocks`, and no others.
+  // The cells that are to be filled in are those of `blocks`, and no others.
   void ExpectOpen(const std::vector<CellRange>& blocks) { ExpectOpen(Table(), blocks); }
   static void ExpectOpen(const Grid& grid, const std::vector<CellRange>& blocks) {
     for (int row = 1; row <= grid.MaxRows(); ++row) {
@@ -93,7 +93,7 @@ class PageTest : public HeadlessProgram, public ::testing::Test {
         const bool open = std::ranges::any_of(blocks, [&](const CellRange& block) {
           return block.Contains({column, row});
         });
-        EXPECT_EQ(grid.IsOpen(column, row), open) << "column " << column << " row " << row;
+        EXPECT_EQ(grid.IsToFill(column, row), open) << "column " << column << " row " << row;
       }
     }
   }
