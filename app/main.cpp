@@ -1,8 +1,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QFontDatabase>
 #include <QMessageBox>
+#include <QRawFont>
 #include <exception>
 #include <iostream>
 #include <stdexcept>
@@ -55,7 +55,7 @@ int Run() {
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
-  if (QFontDatabase::families().isEmpty()) {
+  if (QRawFont::fromFont(QApplication::font()).fontTable("cmap").isEmpty()) {
     std::cerr << survey::kProgramName
               << ": this computer has no fonts, so that no text can be "
                  "shown. Install one, for example the package fonts-dejavu, and start again.\n";

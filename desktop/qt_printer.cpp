@@ -8,6 +8,7 @@
 #include <QPageLayout>
 #include <QPrintDialog>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -40,8 +41,13 @@ QString FileNameOf(QString job) {
 // The dialog takes the document's name without its ending, and lets a file chosen before stand.
 void ProposeFile(QPrinter& printer, const QString& name) {
   printer.setDocName(name);
+  if (printer.outputFormat() != QPrinter::PdfFormat) return;
   const QFileInfo before(printer.outputFileName());
-  if (!before.fileName().isEmpty()) printer.setOutputFileName(before.dir().filePath(name));
+  const QDir folder =
+      before.fileName().isEmpty()
+          ? QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+          : before.dir();
+  printer.setOutputFileName(folder.filePath(name));
 }
 
 // Nobody says that a disk was full while a file was written on it; but the file then lacks its end.

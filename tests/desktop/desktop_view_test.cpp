@@ -171,10 +171,10 @@ TEST_F(DesktopTest, ENTERSearchesASubjectAndATextTicksTheBoxBesideIt) {
   user_->Type("txtSearch", "no such subject");
   ExpectBox("User Message", "The subject could not be located");
   user_->Press(Qt::Key_Return);
-  OpenSiteAt("frmHostels");
+  desktop_->host().Start("frmHostels");
   user_->ClickCell("gridSETA", 2, 3);
   EXPECT_EQ(user_->CellText("gridSETA", 3, 3), "1");
-  OpenSiteAt("frmLecQualifications1");
+  desktop_->host().Start("frmLecQualifications1");
   const auto& table = user_->The<GridView>("gridQual");
   QTest::mouseClick(table.verticalHeader()->viewport(), Qt::LeftButton, {},
                     {table.verticalHeader()->width() / 2, table.rowViewportPosition(2) + 5});

