@@ -138,6 +138,7 @@ TEST_P(NcvPage, BearsItsTextsOnScreenAndOnPaper) {
   EXPECT_EQ(Shown({{2, 1}, {1, 16}, {1, 17}, {1, 22}}), table + "|13||14");
   EXPECT_EQ(Shown({{2, 22}, {3, 22}}), table + ".19|Primary Health");
   Click("cmdPrintPage");
+  EXPECT_EQ(printer.job, "survey table " + table);
   EXPECT_THAT(printer.operations,
               ElementsAre("ShowPrinter", "Font Times New Roman 12 bold", "X 500", "Y 130",
                           "Print \" Campus EMIS NUMBER: 202\"", "Print \"\"", "X 500",
