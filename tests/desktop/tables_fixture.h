@@ -48,17 +48,12 @@ inline const GridDesign kListDesign = {.columns = 2,
                                        .heads = {"Name", "Number"},
                                        .title = "Names"};
 
+// A whole number, a decimal one, a telephone number, capitals, a date, words.
 constexpr int kKinds = 6;
 inline const GridDesign kKindsDesign = {.columns = 2,
                                         .rows = kKinds,
                                         .column_widths = {1500, 3000},
                                         .label_columns = 1,
-                                        .texts = {{1, 1, "Whole"},
-                                                  {1, 2, "Decimal"},
-                                                  {1, 3, "Telephone"},
-                                                  {1, 4, "Capitals"},
-                                                  {1, 5, "Date"},
-                                                  {1, 6, "Words"}},
                                         .rules = {{{2, 1}, Number(0, 99999)},
                                                   {{2, 2}, Number(-9999999.99, 9999999.99, 3)},
                                                   {{2, 3}, Digits(10)},
