@@ -83,7 +83,7 @@ TEST_F(TableEntryTest, AnImpossibleTextIsToldAtOnceAndUntilItIsPutRight) {
   user_->Press(Qt::Key_Tab);
   EXPECT_TRUE(IsRed());
   EXPECT_THAT(Note(), HasSubstr("yyyy/mm/dd"));
-  user_->Press(Qt::Key_Escape);
+  // And the window may go while it is open.
 }
 
 TEST_F(TableEntryTest, NoWayLeadsOutOfAnImpossibleText) {
