@@ -204,15 +204,17 @@ TEST_F(SelectDatabase, ANewDatabaseIsACopyOfTheTemplate) {
   EXPECT_EQ(survey.DatabasePath, (Data() / "Zinnia Valley.mdb").string());
   EXPECT_EQ(Bytes(survey.DatabasePath), Bytes(TemplateFile()));
   ExpectOfOwnerAlone(survey.DatabasePath);
+}
+
+TEST_F(SelectDatabase, AMissingTemplateShowsOnTheSiteList) {
   fs::remove(folder.path() / kTemplateFile);
-  host.Unload(host.Get(kForm));
   Start("chkNew");
-  NameNewDatabase("Aster");
+  NameNewDatabase("Zinnia");
   Continue();
   EXPECT_EQ(Front(), "frmSelectCollege");
-  ASSERT_EQ(dialogs.seen.size(), 1u) << "shows on the list of sites";
+  ASSERT_EQ(dialogs.seen.size(), 1u);
   EXPECT_EQ(dialogs.seen[0].picture, Picture::kError);
-  EXPECT_FALSE(fs::exists(Data() / "Aster.mdb"));
+  EXPECT_FALSE(fs::exists(Data() / "Zinnia.mdb"));
 }
 
 TEST_F(SelectDatabase, ANewDatabaseTakesNothingOverFromOneThatWasThrownAway) {
