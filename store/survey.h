@@ -69,6 +69,11 @@ class Survey {
   std::uint64_t changes_ = 0;
 };
 
+// The same on a connection of one's own, which is not opened anew. Throws ObjectNotSet() where it
+// is null.
+std::int32_t ControlTotalOf(Connection* connection, double college_emis_number,
+                            double campus_emis_number, std::int16_t ProgrammeRegistrationTypeCD);
+
 // The password of every survey database.
 std::string_view DatabasePassword();
 
