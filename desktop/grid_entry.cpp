@@ -140,7 +140,9 @@ void GridEntry::Refresh() {
 }
 
 void GridEntry::Abandon() {
-  if (IsOpen()) line_->removeEventFilter(this);
+  if (!IsOpen()) return;
+  line_->removeEventFilter(this);
+  qApp->removeEventFilter(this);  // which would look at the line while it goes
 }
 
 // ---- What the user does in the line --------------------------------------------------------

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -13,6 +14,17 @@ namespace {
 constexpr QRgb kAlarmOnDark = 0xFFFF8A80;
 constexpr int kHalf = 128;  // of the lightness of a colour
 constexpr int kMargin = 6;
+constexpr int kLineSpacing = 5;
+
+// Lines that are easily told apart and hit.
+class RoomyLines : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kLineSpacing);
+  }
+};
 
 }  // namespace
 
@@ -28,6 +40,7 @@ PaneList::PaneList(const QString& name, int columns) {
   setHeaderHidden(true);
   setRootIsDecorated(false);
   setIndentation(0);
+  setItemDelegate(new RoomyLines(this));
   setItemsExpandable(false);
   setFrameShape(NoFrame);
   setAllColumnsShowFocus(true);

@@ -10,6 +10,7 @@ namespace survey {
 namespace {
 
 constexpr int kLeastCharacters = 3;
+constexpr int kMargin = 6;
 
 }  // namespace
 
@@ -52,6 +53,7 @@ StatusLine::StatusLine(const std::vector<QAction*>& actions)
       year_(new QLabel) {
   setObjectName("statusLine");
   setSizeGripEnabled(false);
+  setContentsMargins(kMargin, 0, kMargin, 0);
   year_->setObjectName("statusYear");
   year_->setMargin(2);
   year_->hide();
