@@ -14,6 +14,7 @@ namespace {
 constexpr QRgb kAlarmOnDark = 0xFFFF8A80;
 constexpr int kHalf = 128;  // of the lightness of a colour
 constexpr int kMargin = 6;
+constexpr int kLeastCharacters = 32;  // of a line that are seen
 constexpr int kLineSpacing = 5;
 
 // Lines that are easily told apart and hit.
@@ -45,6 +46,8 @@ PaneList::PaneList(const QString& name, int columns) {
   setFrameShape(NoFrame);
   setAllColumnsShowFocus(true);
   setFocusPolicy(Qt::ClickFocus);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setMinimumWidth(kLeastCharacters * fontMetrics().averageCharWidth());
   header()->setStretchLastSection(true);
   for (int column = 0; column < columns - 1; ++column) {
     header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
