@@ -65,6 +65,7 @@ struct PageRow {
   PageMaker make;
   std::string_view caption;  // handed to SurveyCaption
   std::vector<MenuPlace> menu = {};
+  std::string_view staff_list_button = {};  // that leads from the staff list to the page, if any
   std::vector<Link> links;
   PageErrors errors;
   MarkCleared mark;

@@ -396,6 +396,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Personal details, appointment, training",
        .section = Section::kStaffMember, .make = Make<FrmEducatorData>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdEdit",
        .links = {
            {"cmdNext", "frmLecQualifications1", kNoGuard, kSU, kId},
            {"cmdPrevious", "frmSelectEducator", kOwnGuard, kUnloadOnly}},
@@ -415,6 +416,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Qualification types, first part",
        .section = Section::kStaffMember, .make = Make<FrmLecQualifications1>,
        .caption = "Lecturer Qualifications",
+       .staff_list_button = "cmdSpecialisation",
        .links = {
            {"cmdNext", "frmLecQualifications2", kAsk, kUS, kIdAndEmis},
            {"cmdMenu", "frmSelectEducator", kAsk, kUS}},
@@ -451,6 +453,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Subjects qualified to teach",
        .section = Section::kStaffMember, .make = Make<FrmEducatorTeaching1>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdStaffteaching",
        .links = {
            {"cmdForward", "frmEducatorTeaching", kAsk, kSU, kId},
            {"cmdNext", "frmLecQualifications2", kNoGuard, kSU, kId},
@@ -470,6 +473,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Months and subjects taught",
        .section = Section::kStaffMember, .make = Make<FrmEducatorTeaching>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdLoad",
        .links = {
            {"cmdForward", "frmEducatorTeaching2", kAsk, kSU, kId},
            {"cmdNext", "frmEducatorTeaching1", kNoGuard, kSU, kId},
@@ -490,6 +494,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Teaching fields, other courses",
        .section = Section::kStaffMember, .make = Make<FrmEducatorTeaching2>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdLoad2",
        .links = {
            {"cmdNext", "frmEducatorTeaching", kNoGuard, kSU, kId},
            {"cmdPrevious", "frmSelectEducator", kNoGuard, kSU}},

@@ -65,7 +65,7 @@ void Survey::Execute(std::string_view statement) {
 }
 
 void Survey::EndStatements() {
-  if (DatabaseConnection) DatabaseConnection->EndGroup();
+  if (DatabaseConnection && DatabaseConnection->EndGroup()) ++changes_;
 }
 
 void Survey::set_statement_observer(StatementObserver observer) {
