@@ -112,7 +112,7 @@ const std::vector<KeptTable>& FrmEducatorTeaching::Kept() {
       {.number = "4.30",
        .grid = "gridSubjects",
        .design = &TeachingSubjects().design,
-       .staff = StaffRecords{"tbl_LecturerTeachingSubject"}},
+       .staff = StaffRecords{"tbl_LecturerTeachingSubject", kOfTheCatalogue}},
   };
   return tables;
 }

@@ -66,6 +66,7 @@ std::vector<std::string> ReturnedFiles(const fs::path& folder) {
 void ReadBare(const std::vector<std::string>& paths) {
   std::vector<std::string> queries;
   for (const StoreTable& table : StoreTables()) queries.push_back("select * from " + table.name);
+  const Bare derives_the_key(paths.front());
   const auto read = [&](std::size_t file) {
     Bare bare(paths[file]);
     for (const std::string& query : queries) bare.Run(query);
