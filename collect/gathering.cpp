@@ -26,11 +26,11 @@ std::string LineOf(const Row& row) {
   return line.append(kCsvLineEnd);
 }
 
-std::string LinesOf(const std::string& file, const Recordset& records) {
+std::string LinesOf(const std::string& file, const Records& records) {
   std::string name;
   AppendCsv(name, file);
   std::string lines;
-  for (const Row& row : records.Rows()) ((lines += name) += ',') += LineOf(row);
+  for (const Row& row : records) ((lines += name) += ',') += LineOf(row);
   return lines;
 }
 
@@ -102,7 +102,7 @@ void Gathering::Add(const GatheredFile& gathered) {
   for (std::size_t i = 0; i < file.records.size(); ++i) {
     const std::string& table = StoreTables()[i].name;
     Write(table, gathered.lines.at(table));
-    for (const Row& row : file.records[i].Rows()) database_->AddRow(table, name, row);
+    for (const Row& row : file.records[i]) database_->AddRow(table, name, row);
   }
   for (const CheckedSite& site : file.sites) AddRow(SitesTable().name, SiteRow(file.name, site));
   AddProblems(file.name, file.problems);

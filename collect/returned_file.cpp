@@ -1,9 +1,11 @@
 #include "collect/returned_file.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "store/recordset.h"
 #include "store/survey.h"
 #include "template/store_tables.h"
 
@@ -136,14 +138,40 @@ std::string OfSites(const StoreTable& table, const std::vector<CheckedSite>& sit
   return condition;
 }
 
+Records RecordsOf(const StoreTable& table, Connection& connection, const ReturnedFile& file) {
+  std::string columns;
+  for (const StoreColumn& column : table.columns) {
+    (columns += columns.empty() ? "" : ",") += column.name;
+  }
+  Recordset rows;
+  rows.Open("select " + columns + " from " + table.name + OfSites(table, file.sites), &connection);
+  return rows.Rows();
+}
+
+// The store takes a text where a number belongs; the columns of what it is gathered into do not,
+// and would refuse the records of all other files with it.
+void LeaveTextsOutOfNumbers(const StoreTable& table, Records& records,
+                            std::vector<Problem>& problems) {
+  for (std::size_t i = 0; i < table.columns.size(); ++i) {
+    if (table.columns[i].is_text) continue;
+    std::size_t left_out = 0;
+    for (auto& row : records) {
+      if (row[i].IsNull() || (row[i].IsNumber() && std::isfinite(row[i].Number()))) continue;
+      if (!row[i].IsEmpty()) ++left_out;
+      row[i] = Value();
+    }
+    if (left_out == 0) continue;
+    problems.push_back({.kind = "no number",
+                        .table = table.name,
+                        .text = "Answers in " + table.columns[i].name + " of " + table.name +
+                                " are no numbers and are left out: " + std::to_string(left_out)});
+  }
+}
+
 void ReadRecords(Connection& connection, ReturnedFile& file) {
   for (const StoreTable& table : StoreTables()) {
-    std::string columns;
-    for (const StoreColumn& column : table.columns) {
-      (columns += columns.empty() ? "" : ",") += column.name;
-    }
-    file.records.emplace_back().Open(
-        "select " + columns + " from " + table.name + OfSites(table, file.sites), &connection);
+    file.records.push_back(RecordsOf(table, connection, file));
+    LeaveTextsOutOfNumbers(table, file.records.back(), file.problems);
   }
 }
 

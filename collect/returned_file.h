@@ -8,7 +8,7 @@
 #include "checks/site_checks.h"
 #include "collect/problem.h"
 #include "store/cipher_key.h"
-#include "store/recordset.h"
+#include "store/value.h"
 
 namespace survey {
 
@@ -17,13 +17,16 @@ struct CheckedSite {
   SiteChecks checks;
 };
 
+// The rows of a table, all its columns in the order of StoreTables().
+using Records = std::vector<std::vector<Value>>;
+
 // What was read of a database that a college has handed in.
 struct ReturnedFile {
   std::string name;          // as it was given, in UTF-8
   std::string failure = {};  // why it could not be read; "" where it was. Nothing else is told then
   std::vector<CheckedSite> sites = {};
-  std::vector<Problem> problems = {};   // of the file first, then of each site in survey order
-  std::vector<Recordset> records = {};  // one for each of StoreTables(), with all its columns
+  std::vector<Problem> problems = {};  // of the file first, then of each site in survey order
+  std::vector<Records> records = {};   // of each of StoreTables(); a number's field has no text
 };
 
 enum class Reading {

@@ -175,7 +175,9 @@ TEST_F(Collect, TextsComeAsTheyWereAndNothingIsTakenForSomethingElse) {
   RunScript(
       "insert into tbl_StaffDetail(CollegeEmisNumber,CampusEmisNumber,SurveyYear,IDNumber,Surname,"
       "Title,Initials) values(101,202,2012,'=1+1','O\"Neill, \xC3\x89lan','a\r\nb',''),"
-      "(101,202,2012,cast(x'1b5b324a41ff' as text),'@x',null,'+1')");
+      "(101,202,2012,cast(x'1b5b324a4100' as text),'@x',null,'+1');"
+      "insert into tbl_StaffCount(CollegeEmisNumber,CampusEmisNumber,Quantity) values(101,202,'')"
+      ",(101,202,'lots'),(101,202,9e999)");
   Gather({HandIn("odd.mdb")});
   const auto at = [](const std::vector<std::string>& row) {
     return row[8] + "|" + row[7] + "|" + row[5] + "|" + row[6];
@@ -186,6 +188,12 @@ TEST_F(Collect, TextsComeAsTheyWereAndNothingIsTakenForSomethingElse) {
   EXPECT_EQ(at(rows[1]), "=1+1|O\"Neill, \xC3\x89lan|a\r\nb|") << "an empty text is no null";
   EXPECT_EQ(at(rows[2]), "\x1b[2JA\xEF\xBF\xBD|@x|#|+1");
   EXPECT_EQ(rows[1][1], "#101");
+  const Rows counts = ReadCsv(out / "tbl_StaffCount.csv");
+  ASSERT_EQ(counts.size(), 4U);
+  for (std::size_t i = 1; i < counts.size(); ++i) EXPECT_EQ(counts[i].back(), "#");
+  EXPECT_THAT(
+      Ask("select Problem from problems where Kind = 'no number'"),
+      ElementsAre("Answers in Quantity of tbl_StaffCount are no numbers and are left out: 2"));
   EXPECT_EQ(Ask("select Title from tbl_StaffDetail where Initials = ''").front(), "a\r\nb");
   EXPECT_EQ(Checked((returned / "odd.mdb").string()).find('\x1b'), std::string::npos);
 }
