@@ -1,5 +1,6 @@
 #include "desktop/desktop.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPainter>
 #include <QProxyStyle>
@@ -8,6 +9,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "desktop/grid_accessible.h"
 #include "desktop/pictures.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_program_folder.h"
@@ -86,6 +88,7 @@ void SetUpApplication() {
   QCoreApplication::setOrganizationName("Corvale");
   QCoreApplication::setApplicationName(kProgramName);
   QApplication::setStyle(new SurveyStyle);
+  QAccessible::installFactory(MakeGridAccessible);
   QApplication::setWindowIcon(ProgramIcon());
   // A program without a window may still be about to show its next one.
   QApplication::setQuitOnLastWindowClosed(false);

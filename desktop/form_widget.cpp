@@ -11,8 +11,11 @@
 #include <QStyle>
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "desktop/grid_view.h"
+#include "forms/form_host.h"
+#include "forms/message_boxes.h"
 
 namespace survey {
 namespace {
@@ -20,14 +23,34 @@ namespace {
 constexpr int kMargin = 14;
 constexpr int kSpacing = 10;
 constexpr int kBlockSpacing = 14;  // between the parts of the form itself
+constexpr int kGroupSpacing = 8;   // more, above a title and below a table
 constexpr int kFrameMargin = 12;
-// Forms are no wider than this, unless a table is, and stand in the middle of the window.
-constexpr int kReadingWidth = 860;
+// All forms are as wide as the room is, up to this, unless a table is wider, and stand in the
+// middle of it: going from one to the next, nothing moves sideways.
+constexpr int kContentWidth = 1080;
 // Stretch factor of what grows up to its maximum before the space beside it gets any room.
 constexpr int kFirst = 100000;
 constexpr int kFieldWidth = 520;
 constexpr int kDialogWidth = 480;
-constexpr int kWholeTable = 340;  // height up to which a table does not scroll by itself
+
+// Whether some part takes the room that is left below the others.
+bool FillsRoom(const Layout& part) {
+  return part.stretch > 0 || part.kind == Layout::Kind::kTable ||
+         (part.kind == Layout::Kind::kColumn && std::ranges::any_of(part.parts, FillsRoom));
+}
+
+// Of the tables, in percent.
+constexpr int kUsualZoom = 100;
+constexpr int kSmallestZoom = 50;
+constexpr int kLargestZoom = 300;
+constexpr int kZoomStep = 10;
+
+struct SettingName {
+  const char* application;
+  const char* section;
+  const char* key;
+};
+constexpr SettingName kZoomSetting = {kProgramName, "Window", "TableZoom"};
 
 bool HasTable(const std::vector<Layout>& parts) {
   return std::ranges::any_of(parts,
@@ -42,7 +65,24 @@ class Contents : public QWidget {
   int heightForWidth(int width) const override { return layout()->minimumHeightForWidth(width); }
 };
 
-// Qt keeps a scroll bar once it was needed, although the texts may need no scrolling without it.
+// Whether what stands below a table, or a title, is set off from what is above it.
+bool BeginsGroup(const Layout& before, const Layout& part) {
+  const auto* label = dynamic_cast<const Label*>(part.control);
+  return before.kind == Layout::Kind::kTable || (label != nullptr && label->Heading);
+}
+
+// Whether a control has no text of its own that tells what it is for.
+bool NeedsLabel(const Control& control) {
+  return dynamic_cast<const TextBox*>(&control) != nullptr ||
+         dynamic_cast<const ComboBox*>(&control) != nullptr;
+}
+
+int BarWidth(const QWidget& widget) {
+  return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
+}
+
+// The bar's room is kept where there is none, so that long and short forms have the same edges. Qt
+// keeps a scroll bar once it was needed, although the texts may need no scrolling without it.
 class ContentsArea : public QScrollArea {
  public:
   using QScrollArea::QScrollArea;
@@ -59,9 +99,10 @@ class ContentsArea : public QScrollArea {
 
  private:
   void ChooseBar() {
-    const QSize room = maximumViewportSize();
-    const bool fits = widget()->heightForWidth(room.width()) <= room.height();
-    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    const int bar = BarWidth(*this);
+    const bool fits = widget()->heightForWidth(width() - bar) <= height();
+    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
+    setViewportMargins(0, 0, fits ? bar : 0, 0);
   }
 };
 
@@ -98,14 +139,20 @@ FormWidget::FormWidget(Form& form, QWidget* parent)
     auto* below = new QWidget(this);
     QVBoxLayout* foot_column = AddBlock(*below);
     Add(*foot, *foot_column, foot_column->parentWidget());
-    below->layout()->setContentsMargins(kMargin, kSpacing, kMargin, kMargin);
+    below->layout()->setContentsMargins(kMargin, kSpacing, kMargin + BarWidth(*this), kMargin);
+    auto* line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    whole->addWidget(line);
     whole->addWidget(below);
+    if (!FillsRoom(arrangement)) column->addStretch(1);
   } else {
     column->insertStretch(0, 1);
     column->addStretch(2);
   }
   FitWidth();
   AddHistoryKeys();
+  AddZoomKeys();
 }
 
 FormWidget::~FormWidget() = default;
@@ -124,10 +171,14 @@ QVBoxLayout* FormWidget::AddBlock(QWidget& place) {
   return column;
 }
 
-// As wide as the widest table or the foot asks for, and kReadingWidth at least.
+// As wide as the widest table asks for, and kContentWidth at least.
 void FormWidget::FitWidth() {
-  int width = kReadingWidth;
-  for (const QWidget* block : blocks_) width = std::max(width, block->sizeHint().width());
+  int width = kContentWidth;
+  for (const auto& view : views_) {
+    const auto* table = qobject_cast<const GridView*>(view->widget());
+    if (table != nullptr) width = std::max(width, table->sizeHint().width());
+  }
+  for (const QWidget* block : blocks_) width = std::max(width, block->minimumSizeHint().width());
   for (QWidget* block : blocks_) block->setMaximumWidth(width);
 }
 
@@ -233,14 +284,17 @@ void FormWidget::RunOn(const Control& from, bool back) {
 
 void FormWidget::AddHistoryKeys() {
   const auto add = [this](const QKeySequence& key, EditHistory::Replay (EditHistory::*replay)()) {
-    auto* shortcut = new QShortcut(key, this);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this,
-            [this, replay] { Attend((form_.history().*replay)()); });
+    AddKey(key, [this, replay] { Attend((form_.history().*replay)()); });
   };
   add(Qt::CTRL | Qt::Key_Z, &EditHistory::Undo);
   add(Qt::CTRL | Qt::Key_Y, &EditHistory::Redo);
   add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &EditHistory::Redo);
+}
+
+void FormWidget::AddKey(const QKeySequence& key, const std::function<void()>& press) {
+  auto* shortcut = new QShortcut(key, this);
+  shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(shortcut, &QShortcut::activated, this, press);
 }
 
 // Shows where something has been taken back or done again.
@@ -252,6 +306,48 @@ void FormWidget::Attend(const EditHistory::Replay& replay) {
     table->Attend(replay.cell, replay.entry.reason);
     BringIntoView(*table);
   }
+}
+
+// ---- Zoom ----------------------------------------------------------------------------------
+
+void FormWidget::AddZoomKeys() {
+  AddKey(Qt::CTRL | Qt::Key_Plus, [this] { SetZoom(zoom_ + kZoomStep); });
+  AddKey(Qt::CTRL | Qt::Key_Equal, [this] { SetZoom(zoom_ + kZoomStep); });  // "+" without Shift
+  AddKey(Qt::CTRL | Qt::Key_Minus, [this] { SetZoom(zoom_ - kZoomStep); });
+  AddKey(Qt::CTRL | Qt::Key_0, [this] { SetZoom(kUsualZoom); });
+  for (const auto& view : views_) {
+    auto* table = qobject_cast<GridView*>(view->widget());
+    if (table == nullptr) continue;
+    connect(table, &GridView::ZoomAsked, this,
+            [this](bool larger) { SetZoom(zoom_ + (larger ? kZoomStep : -kZoomStep)); });
+  }
+}
+
+// All tables of all forms have one size, which the next run begins with.
+void FormWidget::SetZoom(int percent) {
+  ShowZoom(percent);
+  form_.host().platform().settings.Save(kZoomSetting.application, kZoomSetting.section,
+                                        kZoomSetting.key, std::to_string(zoom_));
+}
+
+void FormWidget::ShowZoom(int percent) {
+  percent = std::clamp(percent, kSmallestZoom, kLargestZoom);
+  if (percent == zoom_) return;
+  zoom_ = percent;
+  for (const auto& view : views_) {
+    if (auto* table = qobject_cast<GridView*>(view->widget())) table->SetZoom(percent);
+  }
+  FitWidth();
+}
+
+// Another form may have been zoomed since.
+void FormWidget::showEvent(QShowEvent* event) {
+  const QString remembered = QString::fromStdString(form_.host().platform().settings.Get(
+      kZoomSetting.application, kZoomSetting.section, kZoomSetting.key));
+  bool is_number = false;
+  const int percent = remembered.toInt(&is_number);
+  ShowZoom(is_number ? percent : kUsualZoom);
+  QWidget::showEvent(event);
 }
 
 // ---- Building ------------------------------------------------------------------------------
@@ -282,6 +378,9 @@ void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
     case Layout::Kind::kFoot:
       AddParts(part, box, parent);  // somewhere within the form it is a part like any other
       break;
+    case Layout::Kind::kGap:
+      box.addSpacing(kButtonWidth);
+      break;
     case Layout::Kind::kSpace:
       box.addStretch(std::max(1, part.stretch));
       break;
@@ -289,27 +388,26 @@ void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
 }
 
 void FormWidget::AddParts(const Layout& part, QBoxLayout& box, QWidget* parent) {
-  for (const Layout& child : part.parts) Add(child, box, parent);
+  const bool is_row = part.kind == Layout::Kind::kRow;
+  const Layout* before = nullptr;
+  for (const Layout& child : part.parts) {
+    if (before != nullptr && !is_row && BeginsGroup(*before, child)) box.addSpacing(kGroupSpacing);
+    Add(child, box, parent);
+    before = &child;
+  }
   NameByLabel(part.parts);
-  if (part.kind != Layout::Kind::kRow && HasTable(part.parts)) box.addStretch(1);
+  if (!is_row && HasTable(part.parts)) box.addStretch(1);
 }
 
-// Stands at the top left of its place. Small tables are shown whole; the room is given to all by
-// what they need.
+// Stands at the top of its place. The room down is given to all tables by what they need.
 void FormWidget::AddTable(QWidget& table, QBoxLayout& box) {
-  const int height = table.sizeHint().height();
-  if (height <= kWholeTable) table.setMinimumHeight(height);
-  auto* across = new QHBoxLayout;
-  SetUp(*across);
-  across->addWidget(&table, kFirst);
-  across->addStretch(1);
   if (box.direction() == QBoxLayout::TopToBottom) {
-    box.addLayout(across, height);
+    box.addWidget(&table, table.sizeHint().height());
     return;
   }
   auto* down = new QVBoxLayout;
   SetUp(*down);
-  down->addLayout(across, kFirst);
+  down->addWidget(&table, kFirst);
   down->addStretch(1);
   box.addLayout(down, kFirst);
 }
@@ -352,18 +450,29 @@ QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
       .option_group = [this](const std::string& group) { return OptionGroup(group); },
   };
   views_.push_back(MakeControlView(control, context));
+  Advise(*views_.back());
   // Now, since layouts ask once how much room the texts need, and remember it.
   views_.back()->Refresh();
   return views_.back()->widget();
 }
 
-// A control that has no name of its own is called by the label before it, which also brings the
-// focus to it.
+// A text that is no control's name is said with the control after it: nobody who listens would come
+// to it otherwise.
+void FormWidget::Advise(ControlView& view) {
+  const Control& control = view.control();
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return advice_.push_back(label);
+  if (dynamic_cast<const Frame*>(&control) != nullptr) return;
+  if (!advice_.empty() && NeedsLabel(control)) advice_.pop_back();  // which is its name
+  const auto* box = dynamic_cast<const TextBox*>(&control);
+  if (box != nullptr && box->Locked) return;  // nobody comes to it
+  for (const Label* label : std::exchange(advice_, {})) view.AddAdvice(*label);
+}
+
+// A field is called by the label before it, which also brings the focus to it.
 void FormWidget::NameByLabel(const std::vector<Layout>& row) {
   for (std::size_t i = 1; i < row.size(); ++i) {
     const auto* label = dynamic_cast<const Label*>(row[i - 1].control);
-    const bool has_caption = dynamic_cast<const Button*>(row[i].control) != nullptr;
-    if (label == nullptr || row[i].control == nullptr || has_caption) continue;
+    if (label == nullptr || row[i].control == nullptr || !NeedsLabel(*row[i].control)) continue;
     QWidget* widget = WidgetOf(*row[i].control);
     static_cast<QLabel*>(WidgetOf(*label))->setBuddy(widget);
     if (widget->accessibleName().isEmpty()) {

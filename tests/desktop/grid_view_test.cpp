@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "desktop/grid_accessible.h"
 #include "support/headless_program.h"
 
 namespace survey::testing {
@@ -340,19 +341,73 @@ TEST_F(GridViewTest, ListChoosesRows) {
   EXPECT_FALSE(list_->selectionModel()->hasSelection()) << "the form has forgotten the choice";
 }
 
-TEST_F(GridViewTest, SaysWhatItShows) {
+// What screen readers were told, as "event: name".
+std::vector<std::string> told;
+
+void NoteTold(QAccessibleEvent* event) {
+  QAccessibleInterface* source = event->accessibleInterface();
+  if (source == nullptr || source->role() != QAccessible::Cell) return;
+  const char* kind = event->type() == QAccessible::NameChanged    ? "name: "
+                     : event->type() == QAccessible::StateChanged ? "state: "
+                     : event->type() == QAccessible::Focus        ? "focus: "
+                                                                  : nullptr;
+  if (kind != nullptr) told.push_back(kind + source->text(QAccessible::Name).toStdString());
+}
+
+TEST_F(GridViewTest, SaysWhatItShowsAndWhatChanges) {
   table().SetText(3, 4, "5");
   table().SetNote(7, 4, {"=", "Balances."});
-  for (const auto& [column, row, text] : {std::tuple{3, 4, "Table 7, 7.1 Female, First block: 5"},
-                                          {4, 4, "Table 7, 7.1 Female, Second: empty, locked"},
-                                          {7, 4, "Table 7, 7.1 Female, Total: 5, total, Balances."},
-                                          {6, 12, "Table 7, row 12, Remark: not ticked"}}) {
-    const QModelIndex cell = view_->model()->index(row - 1, column - 1);
-    EXPECT_EQ(cell.data(Qt::AccessibleTextRole).toString(), text);
+  QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(view_);
+  EXPECT_EQ(accessible.text(QAccessible::Name), "Table 7");
+  EXPECT_EQ(accessible.tableInterface()->columnDescription(2), "First block");
+  const auto cell = [&](int column, int row) {
+    return accessible.tableInterface()->cellAt(row - 1, column - 1);
+  };
+  for (const auto& [column, row, text] : {std::tuple{3, 4, "7.1 Female, First block: 5"},
+                                          {4, 4, "7.1 Female, Second: empty, locked"},
+                                          {7, 4, "7.1 Female, Total: 5, total, Balances."},
+                                          {6, 12, "row 12, Remark: not ticked"}}) {
+    EXPECT_EQ(cell(column, row)->text(QAccessible::Name), text);
   }
-  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(view_);
-  EXPECT_EQ(accessible->text(QAccessible::Name), "Table 7");
-  EXPECT_EQ(accessible->tableInterface()->columnDescription(2), "First block");
+  EXPECT_EQ(accessible.indexOfChild(cell(3, 4)), 4 * 8 + 3) << "as the toolkit counts in events";
+  QAccessible::setActive(true);
+  const auto before = QAccessible::installUpdateHandler(NoteTold);
+  view_->Refresh();
+  told.clear();
+  Go(3, 3);
+  Keys("7");
+  Key(Qt::Key_Return);
+  EXPECT_THAT(told,
+              ::testing::IsSupersetOf({"name: 7.1, First block: 7", "name: 7.1, Total: 7, total"}));
+  told.clear();
+  Go(3, 3);
+  Key(Qt::Key_Delete);
+  EXPECT_THAT(told, ::testing::Contains("name: 7.1, Total: empty, total"));
+  told.clear();
+  cell(6, 12)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(At(6, 12), "1");
+  EXPECT_EQ(form().heard.back(), "check 6,12") << "as after a click on the box";
+  EXPECT_THAT(told, ::testing::IsSupersetOf(
+                        {"state: row 12, Remark: ticked", "name: row 12, Remark: ticked"}));
+  QAccessibleInterface& names = *QAccessible::queryAccessibleInterface(list_);
+  CellAccessibleOf(names, 2, 4)->actionInterface()->doAction("Press");
+  EXPECT_EQ(form().heard.back(), "click 2,4");
+  CellAccessibleOf(names, 2, 0)->actionInterface()->doAction("Press");
+  EXPECT_EQ(form().heard.back(), "click 2,0") << "the head, by which a list is sorted";
+  QAccessible::installUpdateHandler(before);
+  QAccessible::setActive(false);
+}
+
+TEST_F(GridViewTest, TakesTheRoomThereIsAndCanBeZoomed) {
+  window_.resize(1300, 500);
+  QCoreApplication::processEvents();
+  const QRect wide = Place(*view_, 7, 3);
+  EXPECT_GT(wide.right() + view_->verticalHeader()->width(), view_->width() - 40);
+  view_->SetZoom(200);
+  EXPECT_NEAR(Place(*view_, 7, 3).height(), 2 * wide.height(), 2);
+  Go(3, 3);
+  Keys("1");
+  EXPECT_GT(Editor()->fontInfo().pixelSize(), 20) << "what is typed is as large";
 }
 
 }  // namespace

@@ -28,9 +28,10 @@
 namespace survey::bench {
 namespace {
 
-constexpr double kFirstWindowBound = 500;  // milliseconds
-constexpr double kMemoryBound = 120;       // MiB
+constexpr double kFirstWindowBound = 200;  // milliseconds
+constexpr double kMemoryBound = 60;        // MiB
 constexpr double kPageBound = 50;          // milliseconds
+constexpr double kPageRatio = 2.5;         // to the plain texts
 
 // Seconds since the process was started, loading of the libraries included.
 double SecondsSinceStart() {
@@ -176,10 +177,10 @@ int Run(int argc, char** argv) {
     const Showing times = Show(desktop, plain, page);
     const double ours = Median(times.ours);
     const double baseline = Median(times.plain);
-    report.Ratio(page, ours, baseline, "ms");
+    report.Ratio(page, ours, baseline, "ms", kPageRatio);
     report.Amount(page, ours, "ms", kPageBound);
   }
-  report.Amount("memory after all pages", ResidentMebibytes(), "MiB");
+  report.Amount("memory after all pages", ResidentMebibytes(), "MiB", kMemoryBound);
   return report.ExitCode();
 }
 
