@@ -14,6 +14,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_program_folder.h"
 #include "desktop/qt_settings.h"
+#include "desktop/surroundings.h"
 #include "forms/message_boxes.h"
 
 namespace survey {
@@ -82,6 +83,7 @@ struct Desktop::Parts {
   Survey survey;
   FormHost host{survey, Platform{dialogs, printer, settings, program_folder}};
   DesktopView view{host};
+  Surroundings surroundings{view, host};
 };
 
 void SetUpApplication() {

@@ -14,8 +14,8 @@
 #include <utility>
 
 #include "desktop/grid_view.h"
+#include "desktop/window_memory.h"
 #include "forms/form_host.h"
-#include "forms/message_boxes.h"
 
 namespace survey {
 namespace {
@@ -44,13 +44,6 @@ constexpr int kUsualZoom = 100;
 constexpr int kSmallestZoom = 50;
 constexpr int kLargestZoom = 300;
 constexpr int kZoomStep = 10;
-
-struct SettingName {
-  const char* application;
-  const char* section;
-  const char* key;
-};
-constexpr SettingName kZoomSetting = {kProgramName, "Window", "TableZoom"};
 
 bool HasTable(const std::vector<Layout>& parts) {
   return std::ranges::any_of(parts,
@@ -201,7 +194,10 @@ void FormWidget::Refresh() {
   if (before != nullptr && !before->isVisibleTo(this)) begun_ = false;
   if (const Control* wished = form_.TakeFocusRequest()) {
     begun_ = true;
-    if (QWidget* widget = WidgetOf(*wished)) widget->setFocus();
+    if (QWidget* widget = WidgetOf(*wished)) {
+      window()->setAttribute(Qt::WA_KeyboardFocusChange);  // the ring shows where it has gone
+      widget->setFocus();
+    }
   } else if (!begun_) {
     begun_ = true;
     BeginEntry();
@@ -326,8 +322,7 @@ void FormWidget::AddZoomKeys() {
 // All tables of all forms have one size, which the next run begins with.
 void FormWidget::SetZoom(int percent) {
   ShowZoom(percent);
-  form_.host().platform().settings.Save(kZoomSetting.application, kZoomSetting.section,
-                                        kZoomSetting.key, std::to_string(zoom_));
+  WindowMemory(form_.host().platform().settings).SetTableZoom(zoom_);
 }
 
 void FormWidget::ShowZoom(int percent) {
@@ -342,11 +337,7 @@ void FormWidget::ShowZoom(int percent) {
 
 // Another form may have been zoomed since.
 void FormWidget::showEvent(QShowEvent* event) {
-  const QString remembered = QString::fromStdString(form_.host().platform().settings.Get(
-      kZoomSetting.application, kZoomSetting.section, kZoomSetting.key));
-  bool is_number = false;
-  const int percent = remembered.toInt(&is_number);
-  ShowZoom(is_number ? percent : kUsualZoom);
+  ShowZoom(WindowMemory(form_.host().platform().settings).TableZoom());
   QWidget::showEvent(event);
 }
 

@@ -33,6 +33,8 @@ class GridView : public QTableView {
   explicit GridView(GridControl& grid, QWidget* parent = nullptr);
   ~GridView() override;
 
+  const Grid& grid() const { return grid_; }
+
   // Shows what has changed in the grid since the last call; cheap when nothing has.
   void Refresh();
 
@@ -50,7 +52,6 @@ class GridView : public QTableView {
   // How large the table is shown, in percent of its usual size.
   void SetZoom(int percent);
 
-  const Grid& grid() const { return grid_; }
   // Where a cell is seen, in the viewport; row 0 and column 0 are the heads and the labels, which
   // have no place there.
   QRect PlaceOf(Cell cell) const;

@@ -31,8 +31,9 @@ constexpr std::string_view kPlainMark{"SQLite format 3\0", kSaltBytes};
 // any other, and engines of generation 3, as in Debian 12, know no later one. Format 4 takes: no
 // computer left with such an engine; the 4 here, its kPageBytes, and its derivation in
 // cipher_key.cpp; and an opening that tries format 3 where 4 does not fit, and exports such a file
-// into a new one.
-constexpr char kFileFormat[] = "PRAGMA cipher_compatibility = 3";
+// into a new one. Said before the key: behind it a new file would be of format 3 in all but the
+// space that format 4 reserves on each page.
+constexpr char kFileFormat[] = "PRAGMA cipher_default_compatibility = 3";
 
 // Engines of generation 4 have a log of their own, which begins with the first key of a program and
 // goes to standard error. What it tells our messages tell. Older ones pass over a pragma that they
@@ -126,25 +127,23 @@ sqlite3* OpenFile(const std::string& path, int flags) {
 }
 
 // A plain engine in place of ours would take the key, say nothing, and write every answer for all
-// to read. Once a run is enough: the library does not change under it.
+// to read.
 void RequireCipher(sqlite3* database) {
-  static bool proven = false;
-  if (proven) return;
+  bool has_cipher = false;
   const auto see_row = [](void* seen, int, char**, char**) {
     *static_cast<bool*>(seen) = true;
     return 0;
   };
-  sqlite3_exec(database, "PRAGMA cipher_version", see_row, &proven, nullptr);
-  if (!proven) throw RunTimeError(SQLITE_MISUSE, "The store engine has no encryption");
+  sqlite3_exec(database, "PRAGMA cipher_version", see_row, &has_cipher, nullptr);
+  if (!has_cipher) throw RunTimeError(SQLITE_MISUSE, "The store engine has no encryption");
 }
 
-// The format belongs right after the key, before anything is read.
 void Unlock(sqlite3* database, std::string_view key) {
   Run(database, kNoLog);
+  Run(database, kFileFormat);
   if (sqlite3_key(database, key.data(), static_cast<int>(key.size())) != SQLITE_OK) {
     throw EngineError(database);
   }
-  Run(database, kFileFormat);
   sqlite3_busy_timeout(database, kPatienceMilliseconds);
   RequireCipher(database);
 }
@@ -308,12 +307,14 @@ void Connection::CountSave() {
   Run(database_.get(), ("PRAGMA user_version = " + std::to_string(count)).c_str());
 }
 
-void Connection::EndGroup() {
-  if (!InGroup()) return;
+bool Connection::EndGroup() {
+  if (!InGroup()) return false;
   work_ = 0;
   try {
-    if (sqlite3_total_changes(database_.get()) != changes_before_) CountSave();
+    const bool changed = sqlite3_total_changes(database_.get()) != changes_before_;
+    if (changed) CountSave();
     Run(database_.get(), "COMMIT");
+    return changed;
   } catch (const RunTimeError& failure) {
     if (InGroup()) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     throw CommitFailure(failure);
