@@ -18,6 +18,7 @@
 #include "desktop/grid_view.h"
 #include "desktop/keys.h"
 #include "desktop/list_box_view.h"
+#include "desktop/text_face.h"
 
 namespace survey {
 namespace {
@@ -31,12 +32,13 @@ constexpr int kLongLabelWidth = 260;
 constexpr int kReadingWidth = 860;  // of a line
 // Shorter ones only where the room is too narrow, and the shortest never.
 constexpr int kShortLabel = 24;
+constexpr int kMostLines = 4;          // about, of those
 constexpr int kTextBoxCharacters = 6;  // that a box shows at least
 
 // ---- Label ---------------------------------------------------------------------------------
 
 // Qt's size hint of a text that may wrap is about a square. This one is a whole line, up to what
-// eyes follow without losing it, and less than half of it where there is no room. Layouts ask over
+// eyes follow without losing it, and a part of it where there is no room. Layouts ask over
 // and over again, and setting a text to learn its height is what a page spends most of its time on.
 class LabelWidget : public QLabel {
  public:
@@ -56,8 +58,9 @@ class LabelWidget : public QLabel {
   }
   QSize minimumSizeHint() const override {
     if (!wordWrap()) return QLabel::minimumSizeHint();
-    const int width = text().size() > kLongLabel ? kLongLabelWidth : OneLine().width() * 2 / 5;
-    return {width, OneLine().height()};
+    if (text().size() > kLongLabel) return {kLongLabelWidth, OneLine().height()};
+    const int word = TextFace::Of(font(), fontInfo().pixelSize()).WidestPart(text());
+    return {std::max(word, OneLine().width() / kMostLines), OneLine().height()};
   }
   int heightForWidth(int width) const override {
     int& height = heights_[width];
@@ -150,6 +153,7 @@ class ButtonWidget : public QPushButton {
   ButtonWidget(Button& button, const FormContext& context)
       : QPushButton(context.parent), button_(button), run_on_(context.run_on) {
     setAutoDefault(false);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   }
 
   // Its caption where there is little room.

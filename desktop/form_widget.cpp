@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QEvent>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
@@ -13,6 +14,7 @@
 #include <optional>
 #include <utility>
 
+#include "desktop/form_area.h"
 #include "desktop/grid_view.h"
 #include "desktop/window_memory.h"
 #include "forms/form_host.h"
@@ -50,14 +52,6 @@ bool HasTable(const std::vector<Layout>& parts) {
                              [](const Layout& part) { return part.kind == Layout::Kind::kTable; });
 }
 
-// What scrolls as a whole only when its parts cannot be made any smaller. A scroll area asks for
-// the height that its contents would like, and would rather scroll a large table out of view,
-// heads and all, than let it scroll by itself.
-class Contents : public QWidget {
- public:
-  int heightForWidth(int width) const override { return layout()->minimumHeightForWidth(width); }
-};
-
 // Whether what stands below a table, or a title, is set off from what is above it.
 bool BeginsGroup(const Layout& before, const Layout& part) {
   const auto* label = dynamic_cast<const Label*>(part.control);
@@ -70,35 +64,6 @@ bool NeedsLabel(const Control& control) {
          dynamic_cast<const ComboBox*>(&control) != nullptr;
 }
 
-int BarWidth(const QWidget& widget) {
-  return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
-}
-
-// The bar's room is kept where there is none, so that long and short forms have the same edges. Qt
-// keeps a scroll bar once it was needed, although the texts may need no scrolling without it.
-class ContentsArea : public QScrollArea {
- public:
-  using QScrollArea::QScrollArea;
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    ChooseBar();
-    QScrollArea::resizeEvent(event);
-  }
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) ChooseBar();
-    return QScrollArea::eventFilter(watched, event);
-  }
-
- private:
-  void ChooseBar() {
-    const int bar = BarWidth(*this);
-    const bool fits = widget()->heightForWidth(width() - bar) <= height();
-    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
-    setViewportMargins(0, 0, fits ? bar : 0, 0);
-  }
-};
-
 void SetUp(QBoxLayout& box) {
   box.setContentsMargins(0, 0, 0, 0);
   box.setSpacing(kSpacing);
@@ -107,11 +72,10 @@ void SetUp(QBoxLayout& box) {
 }  // namespace
 
 FormWidget::FormWidget(Form& form, QWidget* parent)
-    : QWidget(parent), form_(form), scroll_(new ContentsArea(this)) {
+    : QWidget(parent), form_(form), scroll_(new FormArea(this)) {
   setObjectName(QString::fromStdString(form.name()));
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setWidgetResizable(true);
   auto* whole = new QVBoxLayout(this);
   SetUp(*whole);
   whole->setSpacing(0);
@@ -124,9 +88,14 @@ FormWidget::FormWidget(Form& form, QWidget* parent)
     foot = std::move(arrangement.parts.back().parts.front());
     arrangement.parts.pop_back();
   }
-  auto* place = new Contents;
+  const Layout& first = arrangement.parts.front();
+  if (arrangement.parts.size() == 1 && first.kind == Layout::Kind::kFrame) {
+    page_frame_ = first.control;
+  }
+  auto* place = new FormContents;
   QVBoxLayout* column = AddBlock(*place);
   AddParts(arrangement, *column, column->parentWidget());
+  place->resize(0, 0);  // until there is room, no size costs anything
   scroll_->setWidget(place);
   if (foot) {
     auto* below = new QWidget(this);
@@ -280,16 +249,18 @@ void FormWidget::RunOn(const Control& from, bool back) {
 
 void FormWidget::AddHistoryKeys() {
   const auto add = [this](const QKeySequence& key, EditHistory::Replay (EditHistory::*replay)()) {
-    AddKey(key, [this, replay] { Attend((form_.history().*replay)()); });
+    AddKey(key, Qt::WidgetWithChildrenShortcut,
+           [this, replay] { Attend((form_.history().*replay)()); });
   };
   add(Qt::CTRL | Qt::Key_Z, &EditHistory::Undo);
   add(Qt::CTRL | Qt::Key_Y, &EditHistory::Redo);
   add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &EditHistory::Redo);
 }
 
-void FormWidget::AddKey(const QKeySequence& key, const std::function<void()>& press) {
+void FormWidget::AddKey(const QKeySequence& key, Qt::ShortcutContext where,
+                        const std::function<void()>& press) {
   auto* shortcut = new QShortcut(key, this);
-  shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+  shortcut->setContext(where);
   connect(shortcut, &QShortcut::activated, this, press);
 }
 
@@ -307,10 +278,15 @@ void FormWidget::Attend(const EditHistory::Replay& replay) {
 // ---- Zoom ----------------------------------------------------------------------------------
 
 void FormWidget::AddZoomKeys() {
-  AddKey(Qt::CTRL | Qt::Key_Plus, [this] { SetZoom(zoom_ + kZoomStep); });
-  AddKey(Qt::CTRL | Qt::Key_Equal, [this] { SetZoom(zoom_ + kZoomStep); });  // "+" without Shift
-  AddKey(Qt::CTRL | Qt::Key_Minus, [this] { SetZoom(zoom_ - kZoomStep); });
-  AddKey(Qt::CTRL | Qt::Key_0, [this] { SetZoom(kUsualZoom); });
+  // From the panes around the form too.
+  const auto add = [this](Qt::Key key, const std::function<int()>& percent) {
+    AddKey(Qt::CTRL | key, Qt::WindowShortcut, [this, percent] { SetZoom(percent()); });
+  };
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal}) {  // the same without Shift
+    add(key, [this] { return zoom_ + kZoomStep; });
+  }
+  add(Qt::Key_Minus, [this] { return zoom_ - kZoomStep; });
+  add(Qt::Key_0, [] { return kUsualZoom; });
   for (const auto& view : views_) {
     auto* table = qobject_cast<GridView*>(view->widget());
     if (table == nullptr) continue;
@@ -428,8 +404,15 @@ void FormWidget::AddFrame(const Layout& part, QBoxLayout& box, QWidget* parent) 
   box.addWidget(frame, part.stretch);
   auto* inner = new QVBoxLayout(frame);
   SetUp(*inner);
-  const bool has_border = !static_cast<const Frame*>(part.control)->Caption.empty();
-  if (has_border) inner->setContentsMargins(kFrameMargin, kSpacing, kFrameMargin, kFrameMargin);
+  // All of a page: its title, without a border, so that all pages have the same edges.
+  const bool is_page = part.control == page_frame_;
+  if (is_page) {
+    static_cast<QGroupBox*>(frame)->setFlat(true);
+    frame->setContentsMargins(0, frame->contentsMargins().top(), 0, 0);
+  }
+  const bool has_title = !static_cast<const Frame*>(part.control)->Caption.empty();
+  const int margin = is_page ? 0 : kFrameMargin;
+  if (has_title) inner->setContentsMargins(margin, kSpacing, margin, margin);
   AddParts(part, *inner, frame);
 }
 

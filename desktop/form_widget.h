@@ -59,7 +59,8 @@ class FormWidget : public QWidget {
   void BeginEntry();
   bool IsStop(const ControlView& view) const;
   void RunOn(const Control& from, bool back);
-  void AddKey(const QKeySequence& key, const std::function<void()>& press);
+  void AddKey(const QKeySequence& key, Qt::ShortcutContext where,
+              const std::function<void()>& press);
   void AddHistoryKeys();
   void AddZoomKeys();
   void SetZoom(int percent);
@@ -70,6 +71,7 @@ class FormWidget : public QWidget {
   QScrollArea* scroll_;
   std::vector<QWidget*> blocks_;  // the scrolled contents, then the foot where there is one
   std::vector<std::unique_ptr<ControlView>> views_;  // in the order of the layout
+  const Control* page_frame_ = nullptr;              // that holds all but the foot
   std::vector<const Label*> advice_;                 // of the control that is made next
   std::map<std::string, QButtonGroup*> option_groups_;
   int zoom_ = 100;      // of the tables, in percent

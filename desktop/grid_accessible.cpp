@@ -219,6 +219,18 @@ QAccessibleInterface* CellAccessibleOf(QAccessibleInterface& table, int column, 
   return column > columns ? nullptr : table.child(row * (columns + 1) + column);
 }
 
+GridTeller::GridTeller(GridView& view) : view_(view), active_(QAccessible::isActive()) {
+  QAccessible::installActivationObserver(this);
+}
+
+GridTeller::~GridTeller() { QAccessible::removeActivationObserver(this); }
+
+void GridTeller::accessibilityActiveChanged(bool active) {
+  active_ = active;
+  told_.clear();
+  TellChanges();  // nothing yet: a reader finds for itself what is there
+}
+
 void GridTeller::Tell(QAccessible::Event type, Cell cell) const {
   QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&view_);
   QAccessibleInterface* part = CellAccessibleOf(*table, cell.column, cell.row);
@@ -234,7 +246,7 @@ void GridTeller::Tell(QAccessible::Event type, Cell cell) const {
 }
 
 void GridTeller::TellChanges() {
-  if (!QAccessible::isActive()) return told_.clear();
+  if (!active_) return;
   const Grid& grid = view_.grid();
   const bool first = told_.isEmpty();
   for (int row = 1; row <= grid.MaxRows(); ++row) {
@@ -249,7 +261,7 @@ void GridTeller::TellChanges() {
 }
 
 void GridTeller::TellFocus(Cell cell) const {
-  if (QAccessible::isActive()) Tell(QAccessible::Focus, cell);
+  if (active_) Tell(QAccessible::Focus, cell);
 }
 
 }  // namespace survey

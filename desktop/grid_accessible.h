@@ -22,20 +22,26 @@ QAccessibleInterface* MakeGridAccessible(const QString& class_name, QObject* obj
 QAccessibleInterface* CellAccessibleOf(QAccessibleInterface& table, int column, int row);
 
 // Tells screen readers what happens in a table. Nothing while nobody listens.
-class GridTeller {
+class GridTeller : public QAccessible::ActivationObserver {
  public:
   // `view` must outlive the teller.
-  explicit GridTeller(GridView& view) : view_(view) {}
+  explicit GridTeller(GridView& view);
+  ~GridTeller() override;
 
   // Which cells hold something else than they last did, whoever has changed them: the user, by
   // typing, ticking, clearing or pasting, a total that follows, or the page.
   void TellChanges();
   void TellFocus(Cell cell) const;
 
+ protected:
+  // A screen reader has come, or gone.
+  void accessibilityActiveChanged(bool active) override;
+
  private:
   void Tell(QAccessible::Event type, Cell cell) const;
 
   GridView& view_;
+  bool active_;
   QHash<int, QString> told_;  // of each cell
 };
 

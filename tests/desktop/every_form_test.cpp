@@ -67,12 +67,15 @@ TEST_F(EveryFormTest, AllPagesHaveOneGrid) {
         note("cmdSave", *save, save->width());
         for (const GridView* table : user_->Front().findChildren<GridView*>()) {
           note("left", *table, 0);
-          note("right", *table, table->width());
+          // In a narrow window some forms are wider than it, and scroll.
+          if (window.width() > 1000) note("right", *table, table->width());
         }
       }
     });
     for (const auto& [what, at] : places) EXPECT_EQ(at.size(), 1U) << what;
-    EXPECT_EQ(places["cmdSave"], places["right"]);
+    if (window.width() > 1000) {
+      EXPECT_EQ(places["cmdSave"], places["right"]);
+    }
   }
 }
 

@@ -179,19 +179,7 @@ TEST_F(GridViewTest, ListChoosesRows) {
   EXPECT_FALSE(list.selectionModel()->hasSelection()) << "the form has forgotten the choice";
 }
 
-// What screen readers were told, as "event: name".
-std::vector<std::string> told;
-
-void NoteTold(QAccessibleEvent* event) {
-  QAccessibleInterface* source = event->accessibleInterface();
-  if (source == nullptr || source->role() != QAccessible::Cell) return;
-  const char* kind = event->type() == QAccessible::NameChanged    ? "name: "
-                     : event->type() == QAccessible::StateChanged ? "state: "
-                                                                  : nullptr;
-  if (kind != nullptr) told.push_back(kind + source->text(QAccessible::Name).toStdString());
-}
-
-TEST_F(GridViewTest, SaysWhatItShowsAndWhatChanges) {
+TEST_F(GridViewTest, SaysWhatItShowsAndIsWorkedByScreenReaders) {
   GridView& view = Table("pairs");
   pairs().SetText(3, 4, "5");
   pairs().SetNote(7, 4, {"=", "Balances."});
@@ -208,33 +196,17 @@ TEST_F(GridViewTest, SaysWhatItShowsAndWhatChanges) {
     EXPECT_EQ(cell(column, row)->text(QAccessible::Name), text);
   }
   EXPECT_EQ(accessible.indexOfChild(cell(3, 4)), 4 * 8 + 3) << "as the toolkit counts in events";
-  QAccessible::setActive(true);
-  const auto before = QAccessible::installUpdateHandler(NoteTold);
-  view.Refresh();
-  told.clear();
-  user_->Type("7");
-  user_->Press(Qt::Key_Return);
-  EXPECT_THAT(told,
-              ::testing::IsSupersetOf({"name: 7.1, First block: 7", "name: 7.1, Total: 7, total"}));
-  told.clear();
-  GoTo(3, 3);
-  user_->Press(Qt::Key_Delete);
-  EXPECT_THAT(told, ::testing::Contains("name: 7.1, Total: empty, total"));
-  told.clear();
   const auto heard = Listen(pairs());
   cell(6, 12)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
   EXPECT_EQ(At(6, 12), "1");
   EXPECT_EQ(heard->back(), "check 6,12") << "as after a click on the box";
-  EXPECT_THAT(told, ::testing::IsSupersetOf(
-                        {"state: row 12, Remark: ticked", "name: row 12, Remark: ticked"}));
+  EXPECT_EQ(cell(6, 12)->text(QAccessible::Name), "row 12, Remark: ticked");
   const auto clicks = Listen(form().list);
   QAccessibleInterface& names = *QAccessible::queryAccessibleInterface(&Table("list"));
   CellAccessibleOf(names, 2, 4)->actionInterface()->doAction("Press");
   EXPECT_EQ(clicks->back(), "click 2,4");
   CellAccessibleOf(names, 2, 0)->actionInterface()->doAction("Press");
   EXPECT_EQ(clicks->back(), "click 2,0") << "the head, by which a list is sorted";
-  QAccessible::installUpdateHandler(before);
-  QAccessible::setActive(false);
 }
 
 TEST_F(GridViewTest, TakesTheRoomThereIsAndCanBeZoomed) {

@@ -14,7 +14,8 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   SetUpApplication();
   const testing::TemporaryFolder folder;
-  const std::filesystem::path database = folder.path() / "Duinekop Campus.mdb";
+  const std::filesystem::path database = folder.path() / "Data2012" / "Duinekop Campus.mdb";
+  std::filesystem::create_directory(database.parent_path());
   std::filesystem::copy_file(testing::TemplateFile(), folder.path() / kTemplateFile);
   std::filesystem::copy_file(testing::TemplateFile(), database);
   const auto settings = QString::fromStdString((folder.path() / "settings.ini").string());

@@ -46,13 +46,21 @@ def find(program, name, role=None):
                  if part.get_name() == name and role in (None, part.get_role())), None)
 
 
+def press(*keys):
+    subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
+
+
 def act(accessible, name):
     names = [accessible.get_action_name(i) for i in range(accessible.get_n_actions())]
     accessible.do_action(names.index(name))
 
 
-def has_heard(event, name):
-    return any(kind.startswith(event) and source == name for kind, source in heard)
+def wait_to_hear(event, name):
+    """And forgets it with all that came before."""
+    at = wait_for(f"{event} of {name}", lambda: next(
+        (i + 1 for i, (kind, source) in enumerate(heard)
+         if kind.startswith(event) and source == name), None))
+    del heard[:at]
 
 
 def expect(holds, what):
@@ -79,6 +87,17 @@ class Program:
     def the(self, name, role=None):
         return wait_for(name, lambda: find(self.root, name, role))
 
+    def table(self):
+        return wait_for("a table", lambda: next(
+            (part for part in parts(self.root) if part.get_role() == Atspi.Role.TABLE), None))
+
+    def take_keys(self):
+        """No window manager is there to give its window the keyboard."""
+        window = wait_for("its window", lambda: subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
+            capture_output=True, text=True).stdout.split())
+        subprocess.run(["xdotool", "windowfocus", "--sync", window[-1]], check=True)
+
     def __enter__(self):
         return self
 
@@ -104,18 +123,44 @@ def tick_in_a_table():
     with Program("frmLecQualifications1") as program:
         save = program.the("Save")
         expect("not saved" not in save.get_description(), "a page just opened is saved")
-        table = wait_for("the table", lambda: next(
-            (part for part in parts(program.root) if part.get_role() == Atspi.Role.TABLE), None))
+        table = program.table()
         cell = next(table.get_accessible_at(row, column)
                     for row in range(table.get_n_rows()) for column in range(table.get_n_columns())
                     if "not ticked" in table.get_accessible_at(row, column).get_name())
         expect(cell.get_name().startswith("1 School leaving certificate"), cell.get_name())
-        act(cell, "Toggle")
         ticked = cell.get_name().replace("not ticked", "ticked")
-        wait_for("the tick", lambda: has_heard("object:state-changed:checked", ticked))
-        wait_for("the tick's name", lambda: has_heard("object:property-change:accessible-name", ticked))
-        wait_for("the mark", lambda: has_heard("object:property-change:accessible-description", "Save"))
-        expect("not saved" in save.get_description(), "Save says it")
+        act(cell, "Toggle")
+        wait_to_hear("object:state-changed:checked", ticked)
+        wait_for("the mark", lambda: "not saved" in save.get_description())
+
+
+def type_copy_and_clear():
+    with Program("frmPage8") as program:
+        program.take_keys()
+        table = program.table()
+        expect(table.get_name().startswith("Table 3.8 "), table.get_name())
+        cell = "3.8.1 Civil Engineering and Building Construction, Black African, Male: "
+        total = "TOTALS, Black African, Male: "
+        press("1", "2", "Return")
+        wait_to_hear("object:property-change:accessible-name", cell + "12")
+        wait_to_hear("object:property-change:accessible-name", total + "12, total")
+        press("Left", "ctrl+c", "Down", "ctrl+v")
+        wait_to_hear("object:property-change:accessible-name", total + "24, total")
+        press("Delete")
+        wait_to_hear("object:property-change:accessible-name", total + "12, total")
+
+
+def refuse_a_letter():
+    with Program("frmAddSubjects") as program:
+        program.take_keys()
+        code = program.the("Subject Code", Atspi.Role.TEXT)
+        code.grab_focus()
+        heard.clear()
+        wait_for("the focus", lambda: code.get_state_set().contains(Atspi.StateType.FOCUSED))
+        press("1", "x", "2")
+        wait_for("the code", lambda: code.get_text(0, -1) == "12")
+        changes = [kind for kind, _ in heard if kind.startswith("object:text-changed")]
+        expect(len(changes) == 2, f"the letter is not heard to come and go: {changes}")
 
 
 def hear(event):
@@ -123,12 +168,15 @@ def hear(event):
 
 
 def main():
+    Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
     listener = Atspi.EventListener.new(hear)
     for event in ("object:state-changed:checked", "object:property-change:accessible-name",
-                  "object:property-change:accessible-description"):
+                  "object:text-changed"):
         listener.register(event)
     choose_a_database()
     tick_in_a_table()
+    type_copy_and_clear()
+    refuse_a_letter()
 
 
 main()

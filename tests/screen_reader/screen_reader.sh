@@ -19,4 +19,4 @@ Xvfb -displayfd 3 -noreset -nolisten tcp -screen 0 1366x768x24 3> "$scratch/scre
 screen=$!
 read -r number < "$scratch/screen"
 export DISPLAY=:$number
-dbus-run-session -- python3 "$here/screen_reader.py" "$1"
+dbus-run-session -- /usr/bin/python3 "$here/screen_reader.py" "$1"
