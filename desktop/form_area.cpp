@@ -11,7 +11,10 @@ int BarWidth(const QWidget& widget) {
   return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
 }
 
-int FormContents::heightForWidth(int width) const { return layout()->minimumHeightForWidth(width); }
+int FormContents::heightForWidth(int width) const {
+  return layout()->hasHeightForWidth() ? layout()->minimumHeightForWidth(width)
+                                       : layout()->totalMinimumSize().height();
+}
 
 void FormArea::resizeEvent(QResizeEvent* event) {
   FitContents();
