@@ -30,12 +30,14 @@ ContentsPane::ContentsPane(QWidget* window)
 
 void ContentsPane::Refresh(const std::vector<ContentsPart>& contents) {
   if (contents == shown_) return;
-  shown_ = contents;
+  const std::vector<ContentsPart> before = std::exchange(shown_, contents);
   if (list().topLevelItemCount() == 0) Build();
   for (std::size_t part = 0; part < shown_.size(); ++part) {
     for (std::size_t at = 0; at < shown_[part].entries.size(); ++at) {
+      const ContentsEntry& entry = shown_[part].entries[at];
+      if (!before.empty() && before[part].entries[at] == entry) continue;
       QTreeWidgetItem* of = list().topLevelItem(static_cast<int>(part));
-      Show(*of->child(static_cast<int>(at)), shown_[part].entries[at]);
+      Show(*of->child(static_cast<int>(at)), entry);
     }
   }
 }

@@ -10,44 +10,81 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <algorithm>
+#include <map>
 
 #include "desktop/colors.h"
 #include "desktop/combo_box_view.h"
 #include "desktop/grid_view.h"
 #include "desktop/keys.h"
 #include "desktop/list_box_view.h"
+#include "desktop/text_face.h"
 
 namespace survey {
 namespace {
 
-constexpr int kButtonWidth = 112;
 constexpr int kButtonHeight = 30;
 constexpr int kButtonPadding = 10;
 constexpr int kHeadingPercent = 130;
 // Longer texts are broken into lines instead of making the window wide.
 constexpr int kLongLabel = 60;
 constexpr int kLongLabelWidth = 260;
+constexpr int kReadingWidth = 860;  // of a line
 // Shorter ones only where the room is too narrow, and the shortest never.
 constexpr int kShortLabel = 24;
+constexpr int kMostLines = 4;          // about, of those
 constexpr int kTextBoxCharacters = 6;  // that a box shows at least
 
 // ---- Label ---------------------------------------------------------------------------------
 
-// Qt's size hint of a text that may wrap is about a square. This one is a whole line for all but
-// long texts, and less than half of it where there is no room.
+// Qt's size hint of a text that may wrap is about a square. This one is a whole line, up to what
+// eyes follow without losing it, and a part of it where there is no room. Layouts ask over
+// and over again, and setting a text to learn its height is what a page spends most of its time on.
 class LabelWidget : public QLabel {
  public:
   using QLabel::QLabel;
 
-  QSize sizeHint() const override { return MayBreak() ? OneLine() : QLabel::sizeHint(); }
+  void Show(const QString& text) {
+    heights_.clear();
+    one_line_ = {};
+    setWordWrap(text.size() > kShortLabel);
+    setText(text);
+  }
+
+  QSize sizeHint() const override {
+    if (!wordWrap()) return QLabel::sizeHint();
+    const int width = std::min(OneLine().width(), kReadingWidth);
+    return {width, heightForWidth(width)};
+  }
   QSize minimumSizeHint() const override {
-    return MayBreak() ? QSize(OneLine().width() * 2 / 5, OneLine().height())
-                      : QLabel::minimumSizeHint();
+    if (!wordWrap()) return QLabel::minimumSizeHint();
+    if (text().size() > kLongLabel) return {kLongLabelWidth, OneLine().height()};
+    const int word = TextFace::Of(font(), fontInfo().pixelSize()).WidestPart(text());
+    return {std::max(word, OneLine().width() / kMostLines), OneLine().height()};
+  }
+  int heightForWidth(int width) const override {
+    int& height = heights_[width];
+    if (height == 0) height = QLabel::heightForWidth(width);
+    return height;
+  }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    QLabel::changeEvent(event);
+    heights_.clear();
+    one_line_ = {};
   }
 
  private:
-  bool MayBreak() const { return wordWrap() && text().size() <= kLongLabel; }
-  QSize OneLine() const { return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2, 0); }
+  QSize OneLine() const {
+    if (one_line_.isEmpty()) {
+      one_line_ = fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2, 0);
+    }
+    return one_line_;
+  }
+
+  mutable std::map<int, int> heights_;  // by width
+  mutable QSize one_line_;
 };
 
 class LabelView : public ControlView {
@@ -55,7 +92,7 @@ class LabelView : public ControlView {
   LabelView(Label& label, QWidget* parent)
       : ControlView(label, new LabelWidget(parent)),
         label_(label),
-        widget_(static_cast<QLabel&>(*widget())) {
+        widget_(static_cast<LabelWidget&>(*widget())) {
     widget_.setTextFormat(Qt::PlainText);
     if (!label.Heading) return;
     QFont font = widget_.font();
@@ -68,13 +105,11 @@ class LabelView : public ControlView {
   void RefreshState() override {
     const QString text = QString::fromStdString(label_.Caption);
     if (widget_.text() == text) return;
-    widget_.setWordWrap(text.size() > kShortLabel);
-    widget_.setMinimumWidth(text.size() > kLongLabel ? kLongLabelWidth : 0);
-    widget_.setText(text);
+    widget_.Show(text);
   }
 
   Label& label_;
-  QLabel& widget_;
+  LabelWidget& widget_;
 };
 
 // ---- Frame ---------------------------------------------------------------------------------
@@ -118,9 +153,13 @@ class ButtonWidget : public QPushButton {
   ButtonWidget(Button& button, const FormContext& context)
       : QPushButton(context.parent), button_(button), run_on_(context.run_on) {
     setAutoDefault(false);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   }
 
-  QSize minimumSizeHint() const override { return sizeHint(); }
+  // Its caption where there is little room.
+  QSize minimumSizeHint() const override {
+    return QPushButton::sizeHint().expandedTo({0, kButtonHeight});
+  }
   QSize sizeHint() const override {
     const QSize size = QPushButton::sizeHint() + QSize(2 * kButtonPadding, 0);
     return size.expandedTo({kButtonWidth, kButtonHeight});
@@ -177,17 +216,24 @@ class ButtonView : public ControlView {
       // Behind the caption, which may give the button a key of its own.
       if (const QKeySequence key = KeyOf(button_.role()); !key.isEmpty()) widget_.setShortcut(key);
     }
-    TellKey();
     ShowBackColor(widget_, button_.BackColor, kButtonFace);
-  }
-
-  void TellKey() {
-    const QString key = widget_.shortcut().toString(QKeySequence::NativeText);
-    if (key.isEmpty()) return;
+    if (Key().isEmpty()) return;
     const QString tip = button_.ToolTip.empty() ? widget_.text().remove('&')
                                                 : QString::fromStdString(button_.ToolTip);
-    widget_.setToolTip(tip + QStringLiteral(" (%1)").arg(key));
-    widget_.setAccessibleDescription(QStringLiteral("Key: ") + key);
+    widget_.setToolTip(tip + QStringLiteral(" (%1)").arg(Key()));
+  }
+
+  QString Key() const { return widget_.shortcut().toString(QKeySequence::NativeText); }
+
+  QStringList Remarks() const override {
+    QStringList remarks;
+    // The colour says so to those who see it.
+    if (button_.role() == ButtonRole::kSave && button_.BackColor == kYellow) {
+      remarks << QStringLiteral("not saved");
+    }
+    if (!button_.ToolTip.empty()) remarks << QString::fromStdString(button_.ToolTip);
+    if (!Key().isEmpty()) remarks << QStringLiteral("Key: ") + Key();
+    return remarks;
   }
 
   Button& button_;
@@ -203,7 +249,8 @@ class CheckBoxView : public ControlView {
         box_(box),
         widget_(static_cast<QCheckBox&>(*widget())) {
     widget_.setText(QString::fromStdString(box.Caption));
-    QObject::connect(&widget_, &QCheckBox::clicked, &widget_, [this] {
+    // Not the click alone: a screen reader may toggle it.
+    QObject::connect(&widget_, &QCheckBox::toggled, &widget_, [this] {
       box_.Click();
       Refresh();
     });
@@ -228,9 +275,13 @@ class OptionButtonView : public ControlView {
         group_(*context.option_group(option.group())) {
     widget_.setText(QString::fromStdString(option.Caption));
     group_.addButton(&widget_);
+    // A screen reader may toggle it without a click; a click on the chosen one toggles nothing.
+    QObject::connect(&widget_, &QRadioButton::pressed, &widget_, [this] { taken_ = false; });
+    QObject::connect(&widget_, &QRadioButton::toggled, &widget_, [this](bool chosen) {
+      if (chosen) Take();
+    });
     QObject::connect(&widget_, &QRadioButton::clicked, &widget_, [this] {
-      option_.Click();
-      Refresh();
+      if (!taken_) Take();
     });
   }
 
@@ -244,9 +295,16 @@ class OptionButtonView : public ControlView {
     group_.setExclusive(true);
   }
 
+  void Take() {
+    taken_ = true;
+    option_.Click();
+    Refresh();
+  }
+
   OptionButton& option_;
   QRadioButton& widget_;
   QButtonGroup& group_;
+  bool taken_ = false;  // this press of it has been
 };
 
 // ---- TextBox -------------------------------------------------------------------------------
@@ -266,7 +324,7 @@ class TextBoxWidget : public QLineEdit {
     box_.KeyDown();
     if (IsEnter(*event)) {
       if (!event->isAutoRepeat()) GoOn();
-    } else if (event->key() != Qt::Key_Backspace || TakesBackspace()) {
+    } else if (Takes(*event)) {
       QLineEdit::keyPressEvent(event);
     }
   }
@@ -280,7 +338,13 @@ class TextBoxWidget : public QLineEdit {
       box_.Default->Click();
     }
   }
-  bool TakesBackspace() const { return !box_.takes_key || box_.takes_key(U'\b'); }
+  // A key that would be taken back again never comes into the line, where a screen reader would
+  // speak it twice.
+  bool Takes(const QKeyEvent& key) const {
+    if (!box_.takes_key) return true;
+    if (key.key() == Qt::Key_Backspace) return box_.takes_key(U'\b');
+    return !IsCharacter(key) || std::ranges::all_of(key.text().toUcs4(), box_.takes_key);
+  }
 
   TextBox& box_;
   std::function<bool()> commit_entries_;
@@ -337,6 +401,10 @@ class GridControlView : public ControlView {
 
  private:
   void RefreshState() override { widget_.Refresh(); }
+  QStringList Remarks() const override {
+    if (grid_.design().heads.empty()) return {};
+    return {QStringLiteral("Ctrl+Enter: click on the column's head")};
+  }
 
   GridControl& grid_;
   GridView& widget_;
@@ -354,6 +422,19 @@ void ControlView::Refresh() {
   widget_->setEnabled(control_.Enabled);
   widget_->setToolTip(QString::fromStdString(control_.ToolTip));
   RefreshState();
+  Describe();
+}
+
+// Only what has changed: each time is an event.
+void ControlView::Describe() {
+  QStringList parts;
+  for (const Label* advice : advice_) {
+    if (advice->Visible) parts << QString::fromStdString(advice->Caption).simplified();
+  }
+  const QString description = (parts + Remarks()).join(QStringLiteral("; "));
+  if (description == described_) return;
+  described_ = description;
+  widget_->setAccessibleDescription(description);
 }
 
 void ControlView::Begin(bool) { widget_->setFocus(Qt::TabFocusReason); }

@@ -1,15 +1,20 @@
 #ifndef DESKTOP_CONTROL_VIEW_H_
 #define DESKTOP_CONTROL_VIEW_H_
 
+#include <QStringList>
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "forms/control_kinds.h"
 
 class QButtonGroup;
 
 namespace survey {
+
+// Least width of a button, in pixels.
+inline constexpr int kButtonWidth = 112;
 
 // The widget of one control. It keeps nothing of the control's state: what the user does goes to
 // the control's user side, and Refresh() shows what the control holds after it.
@@ -24,6 +29,8 @@ class ControlView {
   virtual bool CommitEntry() { return true; }
   // Whether this is where the user of a form that has come up begins: a table with an open cell.
   virtual bool IsOpenForEntry() const { return false; }
+  // A text of the form that says what this control is about, and is no part of its name.
+  void AddAdvice(const Label& advice) { advice_.push_back(&advice); }
   // Brings the user to its first place to fill in, or to its last.
   virtual void Begin(bool at_end);
 
@@ -35,10 +42,16 @@ class ControlView {
   ControlView(Control& control, QWidget* widget);
   // What Refresh() does for the kind of control, beyond what all have.
   virtual void RefreshState() = 0;
+  // What a screen reader says after the name: keys, and what else is to be seen.
+  virtual QStringList Remarks() const { return {}; }
 
  private:
+  void Describe();
+
   Control& control_;
   QWidget* widget_;
+  std::vector<const Label*> advice_;
+  QString described_;
 };
 
 // What the views of one form share.

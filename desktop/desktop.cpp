@@ -1,6 +1,8 @@
 #include "desktop/desktop.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QGroupBox>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -8,6 +10,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "desktop/grid_accessible.h"
 #include "desktop/pictures.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_program_folder.h"
@@ -32,9 +35,22 @@ class SurveyStyle : public QProxyStyle {
     return QProxyStyle::styleHint(hint, option, widget, result);
   }
 
+  // A flat frame has a title alone, and its contents the edges of what has no frame.
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override {
+    QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control == CC_GroupBox && part == SC_GroupBoxContents && IsFlat(widget)) {
+      rect.setLeft(option->rect.left());
+      rect.setRight(option->rect.right());
+      rect.setBottom(option->rect.bottom());
+    }
+    return rect;
+  }
+
   // The style's own lines around a mark to tick are too faint for weak eyes.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+    if (element == PE_FrameGroupBox && IsFlat(widget)) return;
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool is_box = element == PE_IndicatorCheckBox;
     if (!is_box && element != PE_IndicatorRadioButton) return;
@@ -62,6 +78,12 @@ class SurveyStyle : public QProxyStyle {
     // A mark to tick is as large as the text beside it.
     return is_mark && widget != nullptr ? std::max(usual, widget->fontMetrics().ascent()) : usual;
   }
+
+ private:
+  static bool IsFlat(const QWidget* widget) {
+    const auto* frame = qobject_cast<const QGroupBox*>(widget);
+    return frame != nullptr && frame->isFlat();
+  }
 };
 
 }  // namespace
@@ -88,6 +110,7 @@ void SetUpApplication() {
   QCoreApplication::setOrganizationName("Corvale");
   QCoreApplication::setApplicationName(kProgramName);
   QApplication::setStyle(new SurveyStyle);
+  QAccessible::installFactory(MakeGridAccessible);
   QApplication::setWindowIcon(ProgramIcon());
   // A program without a window may still be about to show its next one.
   QApplication::setQuitOnLastWindowClosed(false);

@@ -14,7 +14,8 @@ namespace survey {
 namespace {
 
 constexpr QSize kWindowSize(1200, 720);
-constexpr QSize kSmallestWindow(640, 420);
+// What is left of a screen of 1366 x 768 where all is shown in twice its size.
+constexpr QSize kSmallestWindow(600, 330);
 // Room for the window's own frame and title, and for the desktop's bars.
 constexpr QSize kWindowBorders(16, 48);
 

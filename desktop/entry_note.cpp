@@ -37,6 +37,7 @@ void EntryNote::Show(Cell cell, const std::string& text, Stays stays) {
   Place();
   FollowScrolling();
   if (stays == Stays::kForAWhile) timer_.start(kShown + told.size() * kShownPerCharacter);
+  usual_ = view_.accessibleDescription();
   Describe(told);
   QAccessibleEvent alert(label_, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
@@ -85,6 +86,7 @@ void EntryNote::Hide() {
   timer_.stop();
   if (!label_) return;
   Describe({});
+  view_.setAccessibleDescription(usual_);
   label_->hide();
   label_->deleteLater();
   label_ = nullptr;

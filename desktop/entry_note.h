@@ -33,6 +33,7 @@ class EntryNote {
   Cell cell_;               // of the note
   QPointer<QLabel> label_;  // a child of the view's window, which may end first
   QTimer timer_;
+  QString usual_;  // what the view is described by without a note
 };
 
 }  // namespace survey

@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QEvent>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
@@ -11,8 +12,12 @@
 #include <QStyle>
 #include <algorithm>
 #include <optional>
+#include <utility>
 
+#include "desktop/form_area.h"
 #include "desktop/grid_view.h"
+#include "desktop/window_memory.h"
+#include "forms/form_host.h"
 
 namespace survey {
 namespace {
@@ -20,50 +25,44 @@ namespace {
 constexpr int kMargin = 14;
 constexpr int kSpacing = 10;
 constexpr int kBlockSpacing = 14;  // between the parts of the form itself
+constexpr int kGroupSpacing = 8;   // more, above a title and below a table
 constexpr int kFrameMargin = 12;
-// Forms are no wider than this, unless a table is, and stand in the middle of the window.
-constexpr int kReadingWidth = 860;
+// All forms are as wide as the room is, up to this, unless a table is wider, and stand in the
+// middle of it: going from one to the next, nothing moves sideways.
+constexpr int kContentWidth = 1080;
 // Stretch factor of what grows up to its maximum before the space beside it gets any room.
 constexpr int kFirst = 100000;
 constexpr int kFieldWidth = 520;
 constexpr int kDialogWidth = 480;
-constexpr int kWholeTable = 340;  // height up to which a table does not scroll by itself
+
+// Whether some part takes the room that is left below the others.
+bool FillsRoom(const Layout& part) {
+  return part.stretch > 0 || part.kind == Layout::Kind::kTable ||
+         (part.kind == Layout::Kind::kColumn && std::ranges::any_of(part.parts, FillsRoom));
+}
+
+// Of the tables, in percent.
+constexpr int kUsualZoom = 100;
+constexpr int kSmallestZoom = 50;
+constexpr int kLargestZoom = 300;
+constexpr int kZoomStep = 10;
 
 bool HasTable(const std::vector<Layout>& parts) {
   return std::ranges::any_of(parts,
                              [](const Layout& part) { return part.kind == Layout::Kind::kTable; });
 }
 
-// What scrolls as a whole only when its parts cannot be made any smaller. A scroll area asks for
-// the height that its contents would like, and would rather scroll a large table out of view,
-// heads and all, than let it scroll by itself.
-class Contents : public QWidget {
- public:
-  int heightForWidth(int width) const override { return layout()->minimumHeightForWidth(width); }
-};
+// Whether what stands below a table, or a title, is set off from what is above it.
+bool BeginsGroup(const Layout& before, const Layout& part) {
+  const auto* label = dynamic_cast<const Label*>(part.control);
+  return before.kind == Layout::Kind::kTable || (label != nullptr && label->Heading);
+}
 
-// Qt keeps a scroll bar once it was needed, although the texts may need no scrolling without it.
-class ContentsArea : public QScrollArea {
- public:
-  using QScrollArea::QScrollArea;
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    ChooseBar();
-    QScrollArea::resizeEvent(event);
-  }
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) ChooseBar();
-    return QScrollArea::eventFilter(watched, event);
-  }
-
- private:
-  void ChooseBar() {
-    const QSize room = maximumViewportSize();
-    const bool fits = widget()->heightForWidth(room.width()) <= room.height();
-    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
-  }
-};
+// Whether a control has no text of its own that tells what it is for.
+bool NeedsLabel(const Control& control) {
+  return dynamic_cast<const TextBox*>(&control) != nullptr ||
+         dynamic_cast<const ComboBox*>(&control) != nullptr;
+}
 
 void SetUp(QBoxLayout& box) {
   box.setContentsMargins(0, 0, 0, 0);
@@ -73,11 +72,10 @@ void SetUp(QBoxLayout& box) {
 }  // namespace
 
 FormWidget::FormWidget(Form& form, QWidget* parent)
-    : QWidget(parent), form_(form), scroll_(new ContentsArea(this)) {
+    : QWidget(parent), form_(form), scroll_(new FormArea(this)) {
   setObjectName(QString::fromStdString(form.name()));
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setWidgetResizable(true);
   auto* whole = new QVBoxLayout(this);
   SetUp(*whole);
   whole->setSpacing(0);
@@ -90,22 +88,33 @@ FormWidget::FormWidget(Form& form, QWidget* parent)
     foot = std::move(arrangement.parts.back().parts.front());
     arrangement.parts.pop_back();
   }
-  auto* place = new Contents;
+  const Layout& first = arrangement.parts.front();
+  if (arrangement.parts.size() == 1 && first.kind == Layout::Kind::kFrame) {
+    page_frame_ = first.control;
+  }
+  auto* place = new FormContents;
   QVBoxLayout* column = AddBlock(*place);
   AddParts(arrangement, *column, column->parentWidget());
+  place->resize(0, 0);  // until there is room, no size costs anything
   scroll_->setWidget(place);
   if (foot) {
     auto* below = new QWidget(this);
     QVBoxLayout* foot_column = AddBlock(*below);
     Add(*foot, *foot_column, foot_column->parentWidget());
-    below->layout()->setContentsMargins(kMargin, kSpacing, kMargin, kMargin);
+    below->layout()->setContentsMargins(kMargin, kSpacing, kMargin + BarWidth(*this), kMargin);
+    auto* line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    whole->addWidget(line);
     whole->addWidget(below);
+    if (!FillsRoom(arrangement)) column->addStretch(1);
   } else {
     column->insertStretch(0, 1);
     column->addStretch(2);
   }
   FitWidth();
   AddHistoryKeys();
+  AddZoomKeys();
 }
 
 FormWidget::~FormWidget() = default;
@@ -124,10 +133,14 @@ QVBoxLayout* FormWidget::AddBlock(QWidget& place) {
   return column;
 }
 
-// As wide as the widest table or the foot asks for, and kReadingWidth at least.
+// As wide as the widest table asks for, and kContentWidth at least.
 void FormWidget::FitWidth() {
-  int width = kReadingWidth;
-  for (const QWidget* block : blocks_) width = std::max(width, block->sizeHint().width());
+  int width = kContentWidth;
+  for (const auto& view : views_) {
+    const auto* table = qobject_cast<const GridView*>(view->widget());
+    if (table != nullptr) width = std::max(width, table->sizeHint().width());
+  }
+  for (const QWidget* block : blocks_) width = std::max(width, block->minimumSizeHint().width());
   for (QWidget* block : blocks_) block->setMaximumWidth(width);
 }
 
@@ -236,14 +249,19 @@ void FormWidget::RunOn(const Control& from, bool back) {
 
 void FormWidget::AddHistoryKeys() {
   const auto add = [this](const QKeySequence& key, EditHistory::Replay (EditHistory::*replay)()) {
-    auto* shortcut = new QShortcut(key, this);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this,
-            [this, replay] { Attend((form_.history().*replay)()); });
+    AddKey(key, Qt::WidgetWithChildrenShortcut,
+           [this, replay] { Attend((form_.history().*replay)()); });
   };
   add(Qt::CTRL | Qt::Key_Z, &EditHistory::Undo);
   add(Qt::CTRL | Qt::Key_Y, &EditHistory::Redo);
   add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &EditHistory::Redo);
+}
+
+void FormWidget::AddKey(const QKeySequence& key, Qt::ShortcutContext where,
+                        const std::function<void()>& press) {
+  auto* shortcut = new QShortcut(key, this);
+  shortcut->setContext(where);
+  connect(shortcut, &QShortcut::activated, this, press);
 }
 
 // Shows where something has been taken back or done again.
@@ -255,6 +273,48 @@ void FormWidget::Attend(const EditHistory::Replay& replay) {
     table->Attend(replay.cell, replay.entry.reason);
     BringIntoView(*table);
   }
+}
+
+// ---- Zoom ----------------------------------------------------------------------------------
+
+void FormWidget::AddZoomKeys() {
+  // From the panes around the form too.
+  const auto add = [this](Qt::Key key, const std::function<int()>& percent) {
+    AddKey(Qt::CTRL | key, Qt::WindowShortcut, [this, percent] { SetZoom(percent()); });
+  };
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal}) {  // the same without Shift
+    add(key, [this] { return zoom_ + kZoomStep; });
+  }
+  add(Qt::Key_Minus, [this] { return zoom_ - kZoomStep; });
+  add(Qt::Key_0, [] { return kUsualZoom; });
+  for (const auto& view : views_) {
+    auto* table = qobject_cast<GridView*>(view->widget());
+    if (table == nullptr) continue;
+    connect(table, &GridView::ZoomAsked, this,
+            [this](bool larger) { SetZoom(zoom_ + (larger ? kZoomStep : -kZoomStep)); });
+  }
+}
+
+// All tables of all forms have one size, which the next run begins with.
+void FormWidget::SetZoom(int percent) {
+  ShowZoom(percent);
+  WindowMemory(form_.host().platform().settings).SetTableZoom(zoom_);
+}
+
+void FormWidget::ShowZoom(int percent) {
+  percent = std::clamp(percent, kSmallestZoom, kLargestZoom);
+  if (percent == zoom_) return;
+  zoom_ = percent;
+  for (const auto& view : views_) {
+    if (auto* table = qobject_cast<GridView*>(view->widget())) table->SetZoom(percent);
+  }
+  FitWidth();
+}
+
+// Another form may have been zoomed since.
+void FormWidget::showEvent(QShowEvent* event) {
+  ShowZoom(WindowMemory(form_.host().platform().settings).TableZoom());
+  QWidget::showEvent(event);
 }
 
 // ---- Building ------------------------------------------------------------------------------
@@ -285,6 +345,9 @@ void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
     case Layout::Kind::kFoot:
       AddParts(part, box, parent);  // somewhere within the form it is a part like any other
       break;
+    case Layout::Kind::kGap:
+      box.addSpacing(kButtonWidth);
+      break;
     case Layout::Kind::kSpace:
       box.addStretch(std::max(1, part.stretch));
       break;
@@ -292,27 +355,26 @@ void FormWidget::Add(const Layout& part, QBoxLayout& box, QWidget* parent) {
 }
 
 void FormWidget::AddParts(const Layout& part, QBoxLayout& box, QWidget* parent) {
-  for (const Layout& child : part.parts) Add(child, box, parent);
+  const bool is_row = part.kind == Layout::Kind::kRow;
+  const Layout* before = nullptr;
+  for (const Layout& child : part.parts) {
+    if (before != nullptr && !is_row && BeginsGroup(*before, child)) box.addSpacing(kGroupSpacing);
+    Add(child, box, parent);
+    before = &child;
+  }
   NameByLabel(part.parts);
-  if (part.kind != Layout::Kind::kRow && HasTable(part.parts)) box.addStretch(1);
+  if (!is_row && HasTable(part.parts)) box.addStretch(1);
 }
 
-// Stands at the top left of its place. Small tables are shown whole; the room is given to all by
-// what they need.
+// Stands at the top of its place. The room down is given to all tables by what they need.
 void FormWidget::AddTable(QWidget& table, QBoxLayout& box) {
-  const int height = table.sizeHint().height();
-  if (height <= kWholeTable) table.setMinimumHeight(height);
-  auto* across = new QHBoxLayout;
-  SetUp(*across);
-  across->addWidget(&table, kFirst);
-  across->addStretch(1);
   if (box.direction() == QBoxLayout::TopToBottom) {
-    box.addLayout(across, height);
+    box.addWidget(&table, table.sizeHint().height());
     return;
   }
   auto* down = new QVBoxLayout;
   SetUp(*down);
-  down->addLayout(across, kFirst);
+  down->addWidget(&table, kFirst);
   down->addStretch(1);
   box.addLayout(down, kFirst);
 }
@@ -342,8 +404,15 @@ void FormWidget::AddFrame(const Layout& part, QBoxLayout& box, QWidget* parent) 
   box.addWidget(frame, part.stretch);
   auto* inner = new QVBoxLayout(frame);
   SetUp(*inner);
-  const bool has_border = !static_cast<const Frame*>(part.control)->Caption.empty();
-  if (has_border) inner->setContentsMargins(kFrameMargin, kSpacing, kFrameMargin, kFrameMargin);
+  // All of a page: its title, without a border, so that all pages have the same edges.
+  const bool is_page = part.control == page_frame_;
+  if (is_page) {
+    static_cast<QGroupBox*>(frame)->setFlat(true);
+    frame->setContentsMargins(0, frame->contentsMargins().top(), 0, 0);
+  }
+  const bool has_title = !static_cast<const Frame*>(part.control)->Caption.empty();
+  const int margin = is_page ? 0 : kFrameMargin;
+  if (has_title) inner->setContentsMargins(margin, kSpacing, margin, margin);
   AddParts(part, *inner, frame);
 }
 
@@ -355,18 +424,29 @@ QWidget* FormWidget::MakeWidget(Control& control, QWidget* parent) {
       .option_group = [this](const std::string& group) { return OptionGroup(group); },
   };
   views_.push_back(MakeControlView(control, context));
+  Advise(*views_.back());
   // Now, since layouts ask once how much room the texts need, and remember it.
   views_.back()->Refresh();
   return views_.back()->widget();
 }
 
-// A control that has no name of its own is called by the label before it, which also brings the
-// focus to it.
+// A text that is no control's name is said with the control after it: nobody who listens would come
+// to it otherwise.
+void FormWidget::Advise(ControlView& view) {
+  const Control& control = view.control();
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return advice_.push_back(label);
+  if (dynamic_cast<const Frame*>(&control) != nullptr) return;
+  if (!advice_.empty() && NeedsLabel(control)) advice_.pop_back();  // which is its name
+  const auto* box = dynamic_cast<const TextBox*>(&control);
+  if (box != nullptr && box->Locked) return;  // nobody comes to it
+  for (const Label* label : std::exchange(advice_, {})) view.AddAdvice(*label);
+}
+
+// A field is called by the label before it, which also brings the focus to it.
 void FormWidget::NameByLabel(const std::vector<Layout>& row) {
   for (std::size_t i = 1; i < row.size(); ++i) {
     const auto* label = dynamic_cast<const Label*>(row[i - 1].control);
-    const bool has_caption = dynamic_cast<const Button*>(row[i].control) != nullptr;
-    if (label == nullptr || row[i].control == nullptr || has_caption) continue;
+    if (label == nullptr || row[i].control == nullptr || !NeedsLabel(*row[i].control)) continue;
     QWidget* widget = WidgetOf(*row[i].control);
     static_cast<QLabel*>(WidgetOf(*label))->setBuddy(widget);
     if (widget->accessibleName().isEmpty()) {

@@ -3,6 +3,7 @@
 
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -40,6 +41,7 @@ class FormWidget : public QWidget {
 
  protected:
   bool focusNextPrevChild(bool next) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   QVBoxLayout* AddBlock(QWidget& place);
@@ -49,6 +51,7 @@ class FormWidget : public QWidget {
   void AddFrame(const Layout& part, QBoxLayout& box, QWidget* parent);
   void AddParts(const Layout& part, QBoxLayout& box, QWidget* parent);
   QWidget* MakeWidget(Control& control, QWidget* parent);
+  void Advise(ControlView& view);
   void NameByLabel(const std::vector<Layout>& row);
   QWidget* WidgetOf(const Control& control) const;
   QButtonGroup* OptionGroup(const std::string& group);
@@ -56,14 +59,22 @@ class FormWidget : public QWidget {
   void BeginEntry();
   bool IsStop(const ControlView& view) const;
   void RunOn(const Control& from, bool back);
+  void AddKey(const QKeySequence& key, Qt::ShortcutContext where,
+              const std::function<void()>& press);
   void AddHistoryKeys();
+  void AddZoomKeys();
+  void SetZoom(int percent);
+  void ShowZoom(int percent);
   void Attend(const EditHistory::Replay& replay);
 
   Form& form_;
   QScrollArea* scroll_;
   std::vector<QWidget*> blocks_;  // the scrolled contents, then the foot where there is one
   std::vector<std::unique_ptr<ControlView>> views_;  // in the order of the layout
+  const Control* page_frame_ = nullptr;              // that holds all but the foot
+  std::vector<const Label*> advice_;                 // of the control that is made next
   std::map<std::string, QButtonGroup*> option_groups_;
+  int zoom_ = 100;      // of the tables, in percent
   bool begun_ = false;  // the focus has been given to the control that the user begins with
 };
 

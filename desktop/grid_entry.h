@@ -24,6 +24,8 @@ class GridEntry : public QStyledItemDelegate {
   // All must outlive the entry; `view` owns it.
   GridEntry(GridControl& grid, QFont font, EntryNote& note, QTableView& view);
 
+  // Of what is typed from now on.
+  void SetFont(const QFont& font) { font_ = font; }
   // Something is being typed.
   bool IsOpen() const { return line_ != nullptr; }
   // To be called when the view has opened the line. `over`: by a character that takes the place of

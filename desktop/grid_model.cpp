@@ -51,10 +51,6 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
       return Tick(grid_, cell);
     case Qt::ToolTipRole:
       return Note(grid_, cell);
-    case Qt::AccessibleTextRole:
-      return SpokenText(grid_, cell);
-    case Qt::AccessibleDescriptionRole:
-      return StateOf(grid_, cell);
     default:
       return {};
   }

@@ -7,7 +7,7 @@
 
 namespace survey {
 
-// Shows a table to Qt's view and to screen readers. Read only: entries go to the grid.
+// Shows a table to Qt's view. Read only: entries go to the grid.
 class GridModel : public QAbstractTableModel {
   Q_OBJECT
 

@@ -26,7 +26,17 @@ QString Heads(const Grid& grid, int column) {
     const QString head = LabelAt(grid, column, row);
     if (head != heads.back()) heads << head;
   }
-  return Joined(heads);
+  heads.removeAll(QString());
+  return heads.join(QStringLiteral(", "));
+}
+
+bool IsTotalLabel(const QString& label) {
+  return label.startsWith(QLatin1String("total"), Qt::CaseInsensitive);
+}
+
+// "6", beside the "3.5.6" that the survey knows a row by.
+bool IsCount(const QString& label) {
+  return std::ranges::all_of(label, [](QChar character) { return character.isDigit(); });
 }
 
 // What the label columns say of a row; "" where they are blank.
@@ -37,6 +47,9 @@ QString RowLabels(const Grid& grid, int row) {
   for (int column = columns; column >= 1; --column) {
     if (!LabelAt(grid, column, row).isEmpty()) first_own = column;
   }
+  if (first_own <= columns && IsTotalLabel(LabelAt(grid, first_own, row))) {
+    return LabelAt(grid, first_own, row);
+  }
   for (int column = 1; column <= columns; ++column) {
     int from = row;
     while (column < first_own && first_own <= columns && from > grid.design().head_rows + 1 &&
@@ -46,6 +59,8 @@ QString RowLabels(const Grid& grid, int row) {
     const QString label = LabelAt(grid, column, from);
     if (labels.isEmpty() || label != labels.back()) labels << label;
   }
+  labels.removeAll(QString());
+  if (labels.size() > 1 && IsCount(labels[0]) && labels[1].front().isDigit()) labels.removeFirst();
   return Joined(labels);
 }
 
@@ -181,10 +196,8 @@ QString StateOf(const Grid& grid, Cell cell) {
 }
 
 QString SpokenText(const Grid& grid, Cell cell) {
-  QStringList parts{TableName(grid), CellName(grid, cell)};
-  parts.removeAll(QString());
   const QString state = StateOf(grid, cell);
-  return parts.join(QStringLiteral(", ")) + QStringLiteral(": ") + ValueOf(grid, cell) +
+  return CellName(grid, cell) + QStringLiteral(": ") + ValueOf(grid, cell) +
          (state.isEmpty() ? QString() : QStringLiteral(", ") + state);
 }
 

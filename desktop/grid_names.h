@@ -17,17 +17,19 @@ QString HeadText(const Grid& grid, int column);  // of row 0, "" where there is 
 bool IsTitleRow(const Grid& grid, int row);
 
 QString TableName(const Grid& grid);
-// The heads over a column, from the top: "Semester 1". Never empty.
+// The heads over a column, from the top: "Black African, Male". Never empty.
 QString ColumnName(const Grid& grid, int column);
-// The labels of a row; where only its first ones are blank, it shares those of a row above, as in
-// the second row of a pair: "2.5.1 REPORT 191 N1 Programmes Female". Never empty.
+// The labels of a row, without a mere count before its own number; where only its first ones are
+// blank, it shares those of a row above, as in the second row of a pair: "2.5.1 REPORT 191 N1
+// Programmes Female". Totals share nothing. Never empty.
 QString RowName(const Grid& grid, int row);
 // Row and column; where these have no names the question that stands before or above the cell,
 // and its number where nothing else tells it from others.
 QString CellName(const Grid& grid, Cell cell);
 // "locked" or "total", and what is noted about the cell; "" for a plain cell.
 QString StateOf(const Grid& grid, Cell cell);
-// Table, row, column, value and state.
+// What a cell is called, then its value and state. A reader says the table's name by itself, once
+// on entering it.
 QString SpokenText(const Grid& grid, Cell cell);
 
 }  // namespace survey

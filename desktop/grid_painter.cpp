@@ -6,7 +6,9 @@
 #include <map>
 
 #include "desktop/colors.h"
+#include "desktop/grid_fit.h"
 #include "desktop/grid_names.h"
+#include "desktop/text_face.h"
 
 namespace survey {
 namespace {
@@ -14,6 +16,7 @@ namespace {
 // Colours that no page and no grid design sets.
 constexpr QColor kText(0, 0, 0);
 constexpr QColor kTextOnDark(255, 255, 255);
+constexpr QColor kPaper(255, 255, 255);
 constexpr QColor kLine(96, 96, 96);
 constexpr QColor kSelection(120, 180, 255, 110);  // over red too, black is to be read
 constexpr QColor kCursor(0, 60, 140);
@@ -21,9 +24,6 @@ constexpr QColor kIdleCursor(90, 110, 140);
 constexpr QColor kBox(64, 64, 64);
 
 constexpr int kLineWidth = 10;  // twips
-constexpr int kSidePadding = 60;
-constexpr int kCenteredPadding = 20;
-constexpr int kTopPadding = 10;
 constexpr int kBoxSide = 200;
 constexpr int kCursorWidth = 28;
 constexpr double kSmallestText = 0.65;  // of the usual size
@@ -67,13 +67,21 @@ struct GridPainter::Setting {
   QColor ink = kText;
   Qt::Alignment alignment = Qt::AlignLeft;
   bool bold = false;
-  bool wraps = true;  // a number never does
+  bool number = false;
+  bool wraps = true;  // between words; numbers and numberings never do
+  int largest = 0;    // size, in the units of the font
+};
+
+// The size in which a text stands whole in its room, and whether it takes no more than a line.
+struct GridPainter::Fitted {
+  const TextFace* face;
+  bool fits;
+  bool one_line;
 };
 
 GridPainter::GridPainter(const Grid& grid, const GridSheet& sheet, const QFont& font, double points)
     : grid_(grid), sheet_(sheet), font_(font) {
-  font_.setPixelSize(
-      std::max(1, static_cast<int>(std::lround(points * 20 * sheet.units_per_twip()))));
+  font_.setPixelSize(TextSizeOf(points, sheet.units_per_twip()));
   font_.setBold(false);
 }
 
@@ -91,19 +99,24 @@ void GridPainter::PaintBlock(QPainter& painter, const CellRange& block, QPoint s
       places.emplace(Cell{span.column, span.row}, sheet_.Place(span, scroll));
     }
   }
-  // The lines come over all cells: a cell drawn later would cover half of its neighbour's.
-  const auto for_each_place = [&](auto&& paint) {
-    for (const auto& [cell, place] : places) {
-      painter.save();
-      if (place.shown != place.whole) painter.setClipRect(place.shown, Qt::IntersectClip);
-      paint(cell, place.whole);
-      painter.restore();
-    }
+  const auto clipped = [&](const Placement& place, auto&& paint) {
+    if (place.shown == place.whole) return paint();
+    painter.save();
+    painter.setClipRect(place.shown, Qt::IntersectClip);
+    paint();
+    painter.restore();
   };
   const auto look = [&](Cell cell) { return look_of ? look_of(cell) : CellLook(); };
-  for_each_place([&](Cell cell, const QRect& rect) { PaintCell(painter, cell, rect, look(cell)); });
-  for_each_place([&](Cell, const QRect& rect) { PaintLines(painter, rect); });
-  for_each_place([&](Cell cell, const QRect& rect) { PaintCursor(painter, rect, look(cell)); });
+  for (const auto& [cell, place] : places) {
+    clipped(place, [&, at = cell, rect = place.whole] { PaintCell(painter, at, rect, look(at)); });
+  }
+  // The lines come over all cells: a cell drawn later would cover half of its neighbour's.
+  PaintLines(painter, places);
+  for (const auto& [cell, place] : places) {
+    if (const CellLook shown = look(cell); shown.cursor) {
+      clipped(place, [&, rect = place.whole] { PaintCursor(painter, rect, shown); });
+    }
+  }
 }
 
 QColor GridPainter::ColorOf(Cell cell) const {
@@ -120,7 +133,9 @@ GridPainter::Setting GridPainter::SettingOf(Cell cell, const CellLook& look) con
   setting.alignment = head && !IsTitleRow(grid_, cell.row) && !IsAligned(grid_.design(), cell)
                           ? Qt::AlignHCenter
                           : ToQt(grid_.AlignmentOf(cell.column, cell.row));
-  setting.wraps = grid_.Kind(cell.column, cell.row).type != CellKind::Type::kNumber;
+  setting.number = grid_.Kind(cell.column, cell.row).type == CellKind::Type::kNumber;
+  setting.wraps = !setting.number && !IsNumbering(setting.text);
+  setting.largest = head ? HeadSize(cell.row) : font_.pixelSize();
   if (look.on_screen) {
     setting.sign = QString::fromStdString(grid_.NoteOf(cell.column, cell.row).sign);
   } else {
@@ -131,7 +146,9 @@ GridPainter::Setting GridPainter::SettingOf(Cell cell, const CellLook& look) con
 
 void GridPainter::PaintCell(QPainter& painter, Cell cell, const QRect& rect,
                             const CellLook& look) const {
-  painter.fillRect(rect, ColorOf(cell));
+  if (const QColor ground = ColorOf(cell); look.on_screen || ground != kPaper) {
+    painter.fillRect(rect, ground);
+  }
   if (look.selected) painter.fillRect(rect, kSelection);
   if (grid_.IsCheckBox(cell.column, cell.row)) {
     PaintBox(painter, rect, grid_.GetText(cell.column, cell.row) == "1",
@@ -147,25 +164,33 @@ void GridPainter::PaintCell(QPainter& painter, Cell cell, const QRect& rect,
   }
 }
 
-// Each cell draws its right and lower line; those along the sheet's left and upper edge close it.
-void GridPainter::PaintLines(QPainter& painter, const QRect& rect) const {
+// Each cell has its right and lower line; those along the sheet's left and upper edge close it.
+void GridPainter::PaintLines(QPainter& painter, const std::map<Cell, Placement>& places) const {
   QPen pen(kLine, Units(kLineWidth), Qt::SolidLine, Qt::SquareCap);
-  QRectF edges(rect.topLeft(), rect.bottomRight());
+  double inset = 0;
   if (const double ratio = painter.device()->devicePixelRatio(); ratio > 1) {
     // Whole pixels, else lines differ in width on a screen at 125 %.
     pen.setCosmetic(true);
     pen.setWidth(static_cast<int>(std::lround(ratio)));
-    edges.translate(0.5, 0.5);
+    inset = 0.5;
+  }
+  QList<QLineF> lines;
+  for (const auto& [cell, place] : places) {
+    const QRect& whole = place.whole;
+    const QRectF edges =
+        QRectF(place.shown.topLeft(), place.shown.bottomRight()).translated(inset, inset);
+    const bool has_right = place.shown.right() == whole.right();
+    const bool has_bottom = place.shown.bottom() == whole.bottom();
+    if (has_right) lines << QLineF(edges.topRight(), edges.bottomRight());
+    if (has_bottom) lines << QLineF(edges.bottomLeft(), edges.bottomRight());
+    if (whole.left() == 0) lines << QLineF(edges.topLeft(), edges.bottomLeft());
+    if (whole.top() == 0) lines << QLineF(edges.topLeft(), edges.topRight());
   }
   painter.setPen(pen);
-  painter.drawLine(edges.topRight(), edges.bottomRight());
-  painter.drawLine(edges.bottomLeft(), edges.bottomRight());
-  if (rect.left() == 0) painter.drawLine(edges.topLeft(), edges.bottomLeft());
-  if (rect.top() == 0) painter.drawLine(edges.topLeft(), edges.topRight());
+  painter.drawLines(lines);
 }
 
 void GridPainter::PaintCursor(QPainter& painter, const QRect& rect, const CellLook& look) const {
-  if (!look.cursor) return;
   const int width = look.focused ? Units(kCursorWidth) : 1;
   painter.setPen(QPen(look.focused ? kCursor : kIdleCursor, width, Qt::SolidLine, Qt::SquareCap,
                       Qt::MiterJoin));
@@ -196,38 +221,102 @@ void GridPainter::PaintBox(QPainter& painter, const QRect& cell, bool ticked, bo
   painter.drawPolyline(tick, 3);
 }
 
-// A text that is too long for its cell is set smaller, down to where it would not be legible,
-// rather than painted over its neighbour. What then is still too long is cut off at the end, but a
-// number never: without a digit it would be another one.
-void GridPainter::PaintText(QPainter& painter, const QRect& cell, const Setting& setting) const {
-  if (setting.text.isEmpty() && setting.sign.isEmpty()) return;
-  const int side = Units(setting.alignment == Qt::AlignHCenter ? kCenteredPadding : kSidePadding);
+// All heads of a row stand in the size that the longest of them asks for.
+int GridPainter::HeadSize(int row) const {
+  if (head_sizes_.empty()) head_sizes_.resize(grid_.design().head_rows + 1);
+  int& size = head_sizes_[row];
+  if (size > 0) return size;
+  size = font_.pixelSize();
+  if (IsTitleRow(grid_, row)) return size;
+  for (int column = 1; column <= sheet_.columns(); ++column) {
+    const CellRange span = row == 0 ? CellRange(column, 0) : grid_.SpanOf(column, row);
+    const Cell cell{column, row};
+    const QRect place = sheet_.Place(span, {}).whole;
+    const bool hidden = place.isEmpty() || span.column != column || span.row != row;
+    if (hidden || IsUpright(grid_.design(), cell)) continue;
+    const Setting setting = SettingOf(cell, {});
+    if (!setting.text.isEmpty()) {
+      size = std::min(size, Fit(setting, RoomIn(place, setting)).face->font().pixelSize());
+    }
+  }
+  return size;
+}
+
+int GridPainter::SideOf(const Setting& setting) const {
+  return Units(setting.alignment == Qt::AlignHCenter ? kCenteredPadding : kSidePadding);
+}
+
+QRect GridPainter::RoomIn(const QRect& cell, const Setting& setting) const {
+  const int side = SideOf(setting);
   const int top = Units(kTopPadding);
-  const QRect room = cell.adjusted(side, top, -side, -top);
-  QFont font = font_;
-  font.setBold(setting.bold);
-  painter.setPen(setting.ink);
-  int flags = static_cast<int>(setting.alignment | Qt::AlignVCenter) |
-              (setting.wraps ? Qt::TextWordWrap : Qt::TextSingleLine);
+  return cell.adjusted(side, top, -side, -top);
+}
+
+const TextFace& GridPainter::Face(bool bold, int size) const {
+  const TextFace*& face = faces_[{bold, size}];
+  if (face == nullptr) {
+    QFont font = font_;
+    font.setBold(bold);
+    face = &TextFace::Of(font, size);
+  }
+  return *face;
+}
+
+// A text that is too long for its cell is set smaller, down to where it would not be legible,
+// rather than painted over its neighbour.
+GridPainter::Fitted GridPainter::Fit(const Setting& setting, const QRect& room) const {
   const int usual = font_.pixelSize();
   const int smallest = std::max(1, static_cast<int>(usual * kSmallestText));
-  bool fits = false;
-  for (int size = usual; !fits && size >= smallest; size -= std::max(1, usual / 16)) {
-    font.setPixelSize(size);
-    painter.setFont(font);
-    QSize needed = painter.boundingRect(room, flags, setting.text).size();
-    if (!setting.sign.isEmpty()) {
-      needed.rwidth() += painter.fontMetrics().horizontalAdvance(setting.sign) + side;
-    }
-    fits = needed.width() <= room.width() && needed.height() <= room.height();
+  const bool may_break = setting.wraps && !setting.text.isEmpty();
+  Fitted fitted{nullptr, false, false};
+  for (int size = setting.largest; !fitted.fits && size >= smallest;
+       size -= std::max(1, usual / 16)) {
+    const TextFace& face = Face(setting.bold, size);
+    const int sign = setting.sign.isEmpty() ? 0 : face.WidthOf(setting.sign) + SideOf(setting);
+    const bool one_line =
+        !setting.text.contains(u'\n') && face.WidthOf(setting.text) + sign <= room.width();
+    const QSize needed = one_line || !may_break
+                             ? QSize(face.WidthOf(setting.text) + sign, face.line_height())
+                             : face.Wrapped(setting.text, room.width()) + QSize(sign, 0);
+    const bool fits = needed.width() <= room.width() && needed.height() <= room.height();
+    fitted = {&face, fits, one_line};
   }
-  if (!fits && setting.wraps) {
-    flags = static_cast<int>(setting.alignment | Qt::AlignTop) | Qt::TextWrapAnywhere;
+  return fitted;
+}
+
+// What is still too long in the smallest size is cut off at the end, but a number never: without a
+// digit it would be another one.
+void GridPainter::PaintText(QPainter& painter, const QRect& cell, const Setting& setting) const {
+  if (setting.text.isEmpty() && setting.sign.isEmpty()) return;
+  const QRect room = RoomIn(cell, setting);
+  const Fitted fitted = Fit(setting, room);
+  painter.setPen(setting.ink);
+  painter.setFont(fitted.face->font());
+  const auto across = static_cast<int>(setting.alignment);
+  if (fitted.fits && fitted.one_line) {
+    PaintLine(painter, room, setting.text, *fitted.face, setting.alignment);
+  } else if (fitted.fits) {
+    painter.drawText(room, across | Qt::AlignVCenter | Qt::TextWordWrap, setting.text);
+  } else if (!setting.number) {
+    painter.drawText(room, across | Qt::AlignTop | Qt::TextWrapAnywhere, setting.text);
+  } else {
+    PaintLine(painter, room, QStringLiteral("###"), *fitted.face, setting.alignment);
   }
-  painter.drawText(room, flags, fits || setting.wraps ? setting.text : QStringLiteral("###"));
-  if (fits && !setting.sign.isEmpty()) {
-    painter.drawText(room, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), setting.sign);
+  if (fitted.fits && !setting.sign.isEmpty()) {
+    PaintLine(painter, room, setting.sign, *fitted.face, Qt::AlignLeft);
   }
+}
+
+// Without the toolkit's own setting of a text in a rectangle, which costs more than the drawing.
+void GridPainter::PaintLine(QPainter& painter, const QRect& room, const QString& text,
+                            const TextFace& face, Qt::Alignment alignment) {
+  int left = room.left();
+  if (alignment != Qt::AlignLeft) {
+    const int beside = room.width() - face.WidthOf(text);
+    left += alignment == Qt::AlignRight ? beside : beside / 2;
+  }
+  const int top = room.top() + (room.height() - face.line_height()) / 2;
+  painter.drawText(QPoint(left, top + face.ascent()), text);
 }
 
 }  // namespace survey

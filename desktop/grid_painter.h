@@ -4,6 +4,9 @@
 #include <QColor>
 #include <QFont>
 #include <functional>
+#include <map>
+#include <utility>
+#include <vector>
 
 #include "desktop/grid_sheet.h"
 #include "grid/grid.h"
@@ -11,6 +14,8 @@
 class QPainter;
 
 namespace survey {
+
+class TextFace;
 
 // How a cell stands out on screen.
 struct CellLook {
@@ -43,19 +48,29 @@ class GridPainter {
 
  private:
   struct Setting;
+  struct Fitted;
 
   Setting SettingOf(Cell cell, const CellLook& look) const;
   QColor ColorOf(Cell cell) const;
   void PaintCell(QPainter& painter, Cell cell, const QRect& rect, const CellLook& look) const;
-  void PaintLines(QPainter& painter, const QRect& rect) const;
+  void PaintLines(QPainter& painter, const std::map<Cell, Placement>& places) const;
   void PaintCursor(QPainter& painter, const QRect& rect, const CellLook& look) const;
   void PaintBox(QPainter& painter, const QRect& cell, bool ticked, bool open) const;
   void PaintText(QPainter& painter, const QRect& cell, const Setting& setting) const;
+  static void PaintLine(QPainter& painter, const QRect& room, const QString& text,
+                        const TextFace& face, Qt::Alignment alignment);
+  const TextFace& Face(bool bold, int size) const;
+  int HeadSize(int row) const;
+  int SideOf(const Setting& setting) const;
+  QRect RoomIn(const QRect& cell, const Setting& setting) const;
+  Fitted Fit(const Setting& setting, const QRect& room) const;
   int Units(int twips) const;
 
   const Grid& grid_;
   const GridSheet& sheet_;
   QFont font_;
+  mutable std::map<std::pair<bool, int>, const TextFace*> faces_;
+  mutable std::vector<int> head_sizes_;  // by row, 0 where not yet asked for
 };
 
 }  // namespace survey

@@ -54,24 +54,44 @@ int LabelColumns(const Grid& grid) {
   return TakesTyping(grid, {1, 1, columns, grid.MaxRows()}) ? 0 : columns;
 }
 
+// Each edge is rounded for itself: rounded widths would add up to another sheet.
+void AddEdges(std::vector<int>& edges, const std::vector<double>& extents) {
+  double edge = 0;
+  for (const double extent : extents) {
+    edges.push_back(static_cast<int>(std::lround(edge += extent)));
+  }
+}
+
+std::vector<double> DesignWidths(const Grid& grid, double units_per_twip) {
+  std::vector<double> widths{0};
+  for (const int twips : grid.design().column_widths) widths.push_back(twips * units_per_twip);
+  widths.resize(grid.MaxColumns() + 1);
+  return widths;
+}
+
+std::vector<double> DesignHeights(const Grid& grid, double units_per_twip) {
+  std::vector<double> heights;
+  for (int row = 0; row <= grid.MaxRows(); ++row) {
+    heights.push_back(RowHeight(grid, row) * units_per_twip);
+  }
+  return heights;
+}
+
 }  // namespace
 
 GridSheet::GridSheet(const Grid& grid, double units_per_twip)
+    : GridSheet(grid, units_per_twip, DesignWidths(grid, units_per_twip),
+                DesignHeights(grid, units_per_twip)) {}
+
+GridSheet::GridSheet(const Grid& grid, double units_per_twip, const std::vector<double>& widths,
+                     const std::vector<double>& heights)
     : units_per_twip_(units_per_twip),
       head_rows_(HeadRows(grid)),
-      label_columns_(LabelColumns(grid)) {
-  // Each edge is rounded for itself: rounded widths would add up to another sheet.
-  const auto add_edge = [&](std::vector<int>& edges, int twips) {
-    edges.push_back(static_cast<int>(std::lround(twips * units_per_twip)));
-  };
-  int twips = 0;
-  left_ = {0, 0};
-  for (int column = 1; column <= grid.MaxColumns(); ++column) {
-    add_edge(left_, twips += grid.design().column_widths[column - 1]);
-  }
-  twips = 0;
-  top_ = {0};
-  for (int row = 0; row <= grid.MaxRows(); ++row) add_edge(top_, twips += RowHeight(grid, row));
+      label_columns_(LabelColumns(grid)),
+      left_{0},
+      top_{0} {
+  AddEdges(left_, widths);
+  AddEdges(top_, heights);
 }
 
 Placement GridSheet::Place(const CellRange& block, QPoint scroll) const {

@@ -23,6 +23,10 @@ class GridSheet {
  public:
   // `units_per_twip` is 1 on paper, the dots of an inch / 1440 on a screen.
   GridSheet(const Grid& grid, double units_per_twip);
+  // The same with other widths than the design's, by column, and heights, by row, both from 0 and
+  // in units.
+  GridSheet(const Grid& grid, double units_per_twip, const std::vector<double>& widths,
+            const std::vector<double>& heights);
 
   int columns() const { return static_cast<int>(left_.size()) - 2; }
   int rows() const { return static_cast<int>(top_.size()) - 2; }

@@ -7,14 +7,17 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "desktop/entry_note.h"
+#include "desktop/grid_accessible.h"
 #include "desktop/grid_bands.h"
 #include "desktop/grid_clipboard.h"
 #include "desktop/grid_entry.h"
+#include "desktop/grid_fit.h"
 #include "desktop/grid_model.h"
 #include "desktop/grid_names.h"
 #include "desktop/grid_painter.h"
@@ -30,10 +33,12 @@ constexpr double kTwipsPerInch = 1440;
 // are set larger than desktops usually set them.
 constexpr double kUsualDesktopPoints = 11;
 constexpr int kReachAroundBox = 3;  // pixels
+constexpr int kWholeTable = 340;    // height up to which a table does not scroll by itself
 
-double UnitsPerTwip(const QWidget& view) {
+double UnitsPerTwip(const QWidget& view, int zoom) {
   const double points = view.fontInfo().pointSizeF();
-  return view.logicalDpiX() / kTwipsPerInch * std::max(1.0, points / kUsualDesktopPoints);
+  return view.logicalDpiX() / kTwipsPerInch * std::max(1.0, points / kUsualDesktopPoints) * zoom /
+         100;
 }
 
 // A table with heads of a list and nothing to type into.
@@ -60,16 +65,17 @@ GridView::GridView(GridControl& grid, QWidget* parent)
       heads_(new GridBand(Qt::Horizontal, ActionsOf(Pane::kHeads), this)),
       labels_(new GridBand(Qt::Vertical, ActionsOf(Pane::kLabels), this)),
       corner_(new GridCorner(ActionsOf(Pane::kCorner), this)),
-      sheet_(std::make_unique<GridSheet>(grid, UnitsPerTwip(*this))),
+      design_(std::make_unique<GridSheet>(grid, UnitsPerTwip(*this, zoom_))),
+      sheet_(std::make_unique<GridSheet>(*design_)),
       painter_(std::make_unique<GridPainter>(grid, *sheet_, font(), kPoints)),
       note_(std::make_unique<EntryNote>(*this)),
       entry_(new GridEntry(grid, painter_->font(), *note_, *this)),
-      clipboard_(std::make_unique<GridClipboard>(grid, *note_, *this)) {
+      clipboard_(std::make_unique<GridClipboard>(grid, *note_, *this)),
+      teller_(std::make_unique<GridTeller>(*this)) {
   SetUp();
   connect(entry_, &GridEntry::Ended, this, &GridView::GoOn);
   connect(entry_, &GridEntry::closeEditor, this, &GridView::UpdatePanes);
   connect(this, &QAbstractItemView::clicked, this, &GridView::ClickCell);
-  LayOut();
   Refresh();
 }
 
@@ -91,7 +97,6 @@ void GridView::SetUp() {
   setSelectionMode(list_ ? SingleSelection : ContiguousSelection);
   setSelectionBehavior(list_ ? SelectRows : SelectItems);
   setAccessibleName(TableName(grid_));
-  if (list_) setAccessibleDescription(QStringLiteral("Ctrl+Enter: click on the column's head"));
 }
 
 // ---- Looks ---------------------------------------------------------------------------------
@@ -106,14 +111,36 @@ void GridView::Refresh() {
   FollowActiveCell();
   ShowChosenRow();
   UpdatePanes();
+  teller_->TellChanges();
 }
 
+// Before the view has a width of its own the sheet is that of the design: the layout asks for it.
 void GridView::Measure() {
-  GridSheet sheet(grid_, UnitsPerTwip(*this));
-  if (sheet == *sheet_) return;
-  *sheet_ = std::move(sheet);
+  GridSheet design(grid_, UnitsPerTwip(*this, zoom_));
+  const int room = testAttribute(Qt::WA_Resized) ? width() - BarWidth() : 0;
+  if (design == *design_ && room == room_) return;
+  *design_ = std::move(design);
+  room_ = room;
+  QFont usual = font();
+  usual.setPixelSize(TextSizeOf(kPoints, design_->units_per_twip()));
+  *sheet_ = room > 0 ? FitToRoom(grid_, design_->units_per_twip(), usual, room) : *design_;
   painter_ = std::make_unique<GridPainter>(grid_, *sheet_, font(), kPoints);
+  entry_->SetFont(painter_->font());
   LayOut();
+}
+
+void GridView::SetZoom(int percent) {
+  zoom_ = percent;
+  Measure();
+}
+
+int GridView::BarWidth() const {
+  return style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  Measure();
+  QTableView::resizeEvent(event);
 }
 
 // At once, so that the next click meets the cells where they are drawn.
@@ -161,7 +188,7 @@ void GridView::LayOut() {
   heads_->setVisible(sheet_->FrozenSize().height() > 0);
   labels_->SetThickness(sheet_->FrozenSize().width());
   labels_->setVisible(sheet_->FrozenSize().width() > 0);
-  setMaximumSize(sizeHint());
+  setMaximumHeight(sizeHint().height());
   updateGeometry();
   updateGeometries();
 }
@@ -177,16 +204,18 @@ void GridView::SetSpans() {
   }
 }
 
-// The whole table and room for its scroll bars; the view never grows beyond that.
+// The whole table in the size of its design and room for its scroll bars. It takes more room across
+// where there is any, but never more down than its rows have.
 QSize GridView::sizeHint() const {
-  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-  return sheet_->Size() + QSize(bar, bar);
+  return {design_->Size().width() + BarWidth(), sheet_->Size().height() + BarWidth()};
 }
 
 QSize GridView::minimumSizeHint() const {
   const int row = static_cast<int>(grid_.design().row_height * sheet_->units_per_twip());
   const QSize frozen = sheet_->FrozenSize();
-  return sizeHint().boundedTo(frozen + QSize(12 * row, 5 * row));
+  const QSize whole = sizeHint();
+  const int height = whole.height() <= kWholeTable ? whole.height() : frozen.height() + 5 * row;
+  return whole.boundedTo({frozen.width() + 12 * row, height});
 }
 
 void GridView::updateGeometries() {
@@ -255,6 +284,26 @@ void GridView::PaintPane(Pane pane, QPainter& painter, const QRect& exposed) con
 void GridView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   PaintPane(Pane::kBody, painter, event->rect());
+}
+
+// ---- Screen readers ------------------------------------------------------------------------
+
+QRect GridView::PlaceOf(Cell cell) const {
+  return cell.column == 0 || cell.row == 0 ? QRect() : visualRect(model_->IndexOf(cell));
+}
+
+Cell GridView::CellAt(QPoint place) const {
+  if (!rect().contains(place)) return {};
+  return sheet_->CellAt(place, Scroll());
+}
+
+bool GridView::IsSelected(Cell cell) const {
+  return selectionModel()->isSelected(model_->IndexOf(cell));
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  teller_->TellFocus(Active());
 }
 
 // ---- Keys ----------------------------------------------------------------------------------
@@ -345,8 +394,15 @@ void GridView::Begin(bool at_end) {
 
 void GridView::Attend(Cell cell, const std::string& word) {
   setFocus(Qt::OtherFocusReason);
+  setCurrentIndex(model_->IndexOf(cell));
   scrollTo(model_->IndexOf(cell));
   note_->Show(cell, word);
+}
+
+void GridView::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QTableView::wheelEvent(event);
+  if (event->angleDelta().y() != 0) Q_EMIT ZoomAsked(event->angleDelta().y() > 0);
+  event->accept();
 }
 
 // What a click does in a list, from the keyboard.
@@ -391,14 +447,23 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void GridView::ClickCell(const QModelIndex& index) {
-  const Cell cell = GridModel::CellAt(index);
-  grid_.Click(cell.column, cell.row);
   const QRect box =
       painter_->BoxIn(visualRect(index))
           .adjusted(-kReachAroundBox, -kReachAroundBox, kReachAroundBox, kReachAroundBox);
-  if (grid_.IsCheckBox(cell.column, cell.row) && box.contains(released_at_))
-    grid_.Tick(cell.column, cell.row);
+  TakeClick(GridModel::CellAt(index), box.contains(released_at_));
+}
+
+void GridView::TakeClick(Cell cell, bool on_box) {
+  grid_.Click(cell.column, cell.row);
+  if (on_box && grid_.IsCheckBox(cell.column, cell.row)) grid_.Tick(cell.column, cell.row);
   TickBeside(cell);
+}
+
+void GridView::Click(Cell cell, bool on_box) {
+  if (!isEnabled() || !CommitEntry()) return;
+  setFocus(Qt::MouseFocusReason);
+  TakeClick(cell, on_box);
+  ShowChosenRow();
 }
 
 // A click on the text to the left of a box ticks it.

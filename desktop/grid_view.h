@@ -16,6 +16,7 @@ class GridEntry;
 class GridModel;
 class GridPainter;
 class GridSheet;
+class GridTeller;
 struct BandActions;
 
 // Shows one survey table, and takes the user's keys and clicks. It holds nothing of the survey: all
@@ -43,8 +44,20 @@ class GridView : public QTableView {
 
   // Brings the focus to the first cell to be filled in, or to the last one.
   void Begin(bool at_end);
-  // Brings the focus to a cell that code has moved the cursor to, with a word about it, or "".
+  // Brings the focus and the cursor to a cell, with a word about it, or "".
   void Attend(Cell cell, const std::string& word);
+  // What a click on a cell does, on the box to tick in it or beside that; row 0 is the head.
+  void Click(Cell cell, bool on_box);
+
+  // How large the table is shown, in percent of its usual size.
+  void SetZoom(int percent);
+
+  // Where a cell is seen, in the viewport; row 0 and column 0 are the heads and the labels, which
+  // have no place there.
+  QRect PlaceOf(Cell cell) const;
+  // The cell that is seen at a place of the view; {0, 0} for none.
+  Cell CellAt(QPoint place) const;
+  bool IsSelected(Cell cell) const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -53,20 +66,25 @@ class GridView : public QTableView {
  Q_SIGNALS:
   // ENTER has gone past the last cell to be filled in, or Shift+ENTER past the first.
   void PassedEnd(bool back);
+  // Ctrl and the wheel ask for a larger table, or a smaller one.
+  void ZoomAsked(bool larger);
 
  protected:
   void changeEvent(QEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void updateGeometries() override;
   void showEvent(QShowEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   // The parts of the view, with what scrolls in each.
@@ -75,6 +93,7 @@ class GridView : public QTableView {
   // ---- Looks
   void SetUp();
   void Measure();
+  int BarWidth() const;
   void LayOut();
   void SetSpans();
   void UpdatePanes();
@@ -94,6 +113,7 @@ class GridView : public QTableView {
   void Choose();
   void ClickPane(Pane pane, QPoint place);
   void ClickCell(const QModelIndex& index);
+  void TakeClick(Cell cell, bool on_box);
   void TickBeside(Cell label);
   Cell Active() const { return {grid_.ActiveColumn(), grid_.ActiveRow()}; }
 
@@ -103,11 +123,15 @@ class GridView : public QTableView {
   GridBand* heads_;
   GridBand* labels_;
   GridCorner* corner_;
-  std::unique_ptr<GridSheet> sheet_;
+  std::unique_ptr<GridSheet> design_;  // as the design has it
+  std::unique_ptr<GridSheet> sheet_;   // as it is shown in `room_`
+  int zoom_ = 100;                     // percent
+  int room_ = 0;                       // across, in pixels; 0 where it is not known yet
   std::unique_ptr<GridPainter> painter_;
   std::unique_ptr<EntryNote> note_;
   GridEntry* entry_;
   std::unique_ptr<GridClipboard> clipboard_;
+  std::unique_ptr<GridTeller> teller_;
   std::uint64_t shown_ = 0;  // revision of the grid
   bool following_ = false;   // code moves the cursor, not the user
   bool pressing_ = false;    // the mouse does

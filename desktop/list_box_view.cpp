@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <utility>
 
@@ -33,8 +34,13 @@ class ListWidget : public QListView {
   }
 
   // A press and a drag mark an entry; the mouse chooses where it is let go.
+  void mousePressEvent(QMouseEvent* event) override {
+    by_hand_ = true;
+    QListView::mousePressEvent(event);
+  }
   void mouseReleaseEvent(QMouseEvent* event) override {
     QListView::mouseReleaseEvent(event);
+    by_hand_ = false;
     const int row = currentIndex().row();
     if (!selectionModel()->hasSelection()) return;
     if (row != list_.ListIndex() || indexAt(event->pos()).isValid()) list_.Choose(row);
@@ -44,7 +50,10 @@ class ListWidget : public QListView {
   // Moving through the list by key chooses, as clicking does.
   void keyPressEvent(QKeyEvent* event) override {
     const int before = list_.ListIndex();
-    QListView::keyPressEvent(event);
+    {
+      const QScopedValueRollback by_hand(by_hand_, true);
+      QListView::keyPressEvent(event);
+    }
     // Qt may already have its cursor, unseen, on the first entry, and would go to the second.
     const bool enters = before < 0 && event->key() == Qt::Key_Down;
     const int row = enters ? 0 : currentIndex().row();
@@ -52,8 +61,17 @@ class ListWidget : public QListView {
     if (enters || moved || event->key() == Qt::Key_Space) list_.Choose(row);
   }
 
+  // A screen reader selects an entry where the mouse clicks it.
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& before) override {
+    QListView::selectionChanged(selected, before);
+    if (by_hand_ || selected.isEmpty()) return;
+    const int row = selected.indexes().constFirst().row();
+    if (row != list_.ListIndex()) list_.Choose(row);
+  }
+
  private:
   ListBox& list_;
+  bool by_hand_ = false;  // the user's mouse or key is at work, and chooses when it is done
   bool goes_on_ = false;  // the mouse is down in a double click on an entry
 };
 

@@ -13,10 +13,13 @@ namespace {
 
 constexpr char kWindow[] = "Main";
 constexpr char kGuideWindow[] = "Guide";
-// Width of a window that begins with the contents beside the page, and up to which size of the
-// desktop's texts that holds.
+// Width of a window that begins with the contents beside the page, and height of one in which the
+// checks may take what the user gives them; in a lower one they leave the most of it to the page.
+// Both hold up to this size of the desktop's texts, and grow with larger ones.
 constexpr int kWideEnough = 1100;
+constexpr int kHighEnough = 600;
 constexpr double kUsualPoints = 11;
+constexpr int kPartOfLow = 4;
 constexpr int kContentsWidth = 300;
 constexpr int kChecksHeight = 150;
 
@@ -109,6 +112,8 @@ void Surroundings::Refresh() {
 }
 
 void Surroundings::ShowPanes() {
+  const int height = view_.window().height();
+  checks_->setMaximumHeight(height < kHighEnough * Scale() ? height / kPartOfLow : QWIDGETSIZE_MAX);
   for (const auto& [pane, action] :
        {std::pair<Pane*, QAction*>{contents_, contents_action_}, {checks_, checks_action_}}) {
     const bool shown = guide_.SiteChosen() && Wants(*pane);
@@ -118,9 +123,12 @@ void Surroundings::ShowPanes() {
   }
 }
 
+double Surroundings::Scale() const {
+  return std::max(1.0, view_.window().fontInfo().pointSizeF() / kUsualPoints);
+}
+
 bool Surroundings::Wants(const Pane& pane) const {
-  const double scale = std::max(1.0, view_.window().fontInfo().pointSizeF() / kUsualPoints);
-  const bool usual = &pane == contents_ && view_.window().width() >= kWideEnough * scale;
+  const bool usual = &pane == contents_ && view_.window().width() >= kWideEnough * Scale();
   return memory_.Wanted(pane.objectName().toStdString()).value_or(usual);
 }
 

@@ -41,6 +41,7 @@ class Surroundings : public QObject {
   void Refresh();
   void ShowPanes();
   bool Wants(const Pane& pane) const;
+  double Scale() const;  // of the desktop's texts to the usual ones
   void Toggle(Pane& pane, bool shown);
   void FollowFocus(const QWidget* focus);
   void ShowCell();

@@ -7,6 +7,8 @@ constexpr char kApplication[] = "OSTRELCORVALEANNUALSURVEY";
 constexpr char kSection[] = "Windows";
 constexpr char kShown[] = "shown";
 constexpr char kHidden[] = "hidden";
+constexpr char kTableZoom[] = "tableZoom";
+constexpr int kUsualZoom = 100;
 
 }  // namespace
 
@@ -34,6 +36,17 @@ std::optional<bool> WindowMemory::Wanted(const std::string& pane) const {
 
 void WindowMemory::SetWanted(const std::string& pane, bool wanted) {
   settings_.Save(kApplication, kSection, pane, wanted ? kShown : kHidden);
+}
+
+int WindowMemory::TableZoom() const {
+  const std::string said = settings_.Get(kApplication, kSection, kTableZoom);
+  bool is_number = false;
+  const int percent = QString::fromStdString(said).toInt(&is_number);
+  return is_number ? percent : kUsualZoom;
+}
+
+void WindowMemory::SetTableZoom(int percent) {
+  settings_.Save(kApplication, kSection, kTableZoom, std::to_string(percent));
 }
 
 QByteArray WindowMemory::Get(const std::string& key) const {

@@ -25,6 +25,10 @@ class WindowMemory {
   std::optional<bool> Wanted(const std::string& pane) const;
   void SetWanted(const std::string& pane, bool wanted);
 
+  // How large tables are shown, in percent of their usual size; 100 where nobody has said.
+  int TableZoom() const;
+  void SetTableZoom(int percent);
+
  private:
   QByteArray Get(const std::string& key) const;
   void Put(const std::string& key, const QByteArray& bytes);

@@ -32,6 +32,8 @@ Layout FrameOf(Frame& frame, Layout part, int stretch) {
 
 Layout FootOf(Layout part) { return {Layout::Kind::kFoot, nullptr, {std::move(part)}, 0}; }
 
+Layout Gap() { return {Layout::Kind::kGap, nullptr, {}, 0}; }
+
 Layout Space() { return {Layout::Kind::kSpace, nullptr, {}, 1}; }
 
 }  // namespace survey

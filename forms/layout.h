@@ -20,6 +20,7 @@ struct Layout {
     kFields,   // labels and what is filled in beside them, each kind in a column of its own
     kFrame,    // a Frame around its one part
     kFoot,     // stays in view below its form
+    kGap,      // the room of a button that this form does not have, others of its kind do
     kSpace,    // takes the room that is left
   };
 
@@ -44,6 +45,7 @@ Layout FrameOf(Frame& frame, Layout part, int stretch = 0);
 // The buttons that work on the whole form, as the last part of its outermost column. A form that
 // has them fills its window from the top, and scrolls behind them; any other stands in the middle.
 Layout FootOf(Layout part);
+Layout Gap();
 Layout Space();
 
 }  // namespace survey

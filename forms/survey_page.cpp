@@ -1,5 +1,7 @@
 #include "forms/survey_page.h"
 
+#include <algorithm>
+
 namespace survey {
 namespace {
 
@@ -53,9 +55,13 @@ void SurveyPage::Printpage() {
       [this](std::string_view grid, int index) -> const Grid& { return Find<Grid>(grid, index); });
 }
 
+// What a button is for has its place, the same on every page, whether a page has the button or not.
 Layout SurveyPage::Arrange() {
   std::vector<Layout> buttons;
-  for (Button* link : links_) buttons.push_back(Place(*link));
+  for (const ButtonRole role : {ButtonRole::kPrevious, ButtonRole::kNext, ButtonRole::kMenu}) {
+    const auto link = std::ranges::find(links_, role, &Button::role);
+    buttons.push_back(link == links_.end() ? Gap() : Place(**link));
+  }
   buttons.insert(buttons.end(), {Space(), Place(cmdPrintPage), Place(cmdSave)});
   return ColumnOf(
       {FrameOf(Frame1, Body(), 1),

@@ -97,7 +97,7 @@ class SurveyPage : public Form {
   void Save();
 
   const PageRow& row_;
-  std::vector<Button*> links_;  // from left to right
+  std::vector<Button*> links_;  // that lead from the page
 };
 
 }  // namespace survey

@@ -17,6 +17,11 @@ constexpr int kPrintedYear = 2010;
 constexpr ErrorName kContinueRoutine = {"frmMainMenu", "cmdContinue_Click"};
 constexpr ErrorName kPrintRoutine = {"frmMainMenu", "Print Routine"};
 
+// What a button's numbers alone do not say to those who do not know the survey by heart.
+std::string TitleOf(const PageRow& row) {
+  return std::string(row.tables) + ": " + std::string(row.about);
+}
+
 }  // namespace
 
 FrmMainMenu::FrmMainMenu(FormHost& host) : Form(host, "frmMainMenu", "Main Menu") {
@@ -71,7 +76,7 @@ Layout FrmMainMenu::Arrange() {
               FrameOf(Frame3, ColumnOf(std::move(learner_rows)), 1)}),
        FrameOf(Frame2, RowOf({ColumnOf({Place(lblSelectItem), Place(lblSignature)}), Space(),
                               Place(cmdList)})),
-       RowOf({Place(cmdDisclaimer), Space(), Place(cmdExit)})});
+       FootOf(RowOf({Place(cmdDisclaimer), Space(), Place(cmdExit)}))});
 }
 
 void FrmMainMenu::Form_Load() {
@@ -240,14 +245,17 @@ bool FrmMainMenu::ValidateSite() {
 // A button of the student menu asks for no site.
 void FrmMainMenu::PlacePage(const PageRow& row) {
   const std::string page(row.name);
+  const std::string about = TitleOf(row);
   for (const MenuPlace& place : row.menu) {
     const std::string name(place.button);
     if (place.index == kNoIndex) {
       Find<Button>(name).on_click = [this, page] { OpenForSite(page); };
+      Find<Button>(name).ToolTip = about;
     } else {
       cmdLearner.push_back(std::make_unique<Button>(*this, name, std::string(place.caption),
                                                     ButtonRole::kNone, place.index));
       cmdLearner.back()->on_click = [this, page] { Open(page); };
+      cmdLearner.back()->ToolTip = about;
     }
   }
 }

@@ -45,7 +45,7 @@ Layout FrmSelectDatabase::Arrange() {
                          1),
                    Place(lblNetwork), Place(chNetwork),
                    RowOf({Place(txtpath, 1), Place(cmdBrowse)}),
-                   RowOf({Place(cmdAbout), Space(), Place(cmdExit), Place(cmdContinue)})});
+                   FootOf(RowOf({Place(cmdAbout), Space(), Place(cmdExit), Place(cmdContinue)}))});
 }
 
 void FrmSelectDatabase::Form_Load() {

@@ -6,7 +6,8 @@ librsvg2-bin qt6-base-dev fonts-dejavu-core fonts-liberation"
 package_packages="dpkg-dev file"
 bench_packages="libbenchmark-dev"
 test_packages="$bench_packages libgtest-dev libgmock-dev clang-format poppler-utils \
-$package_packages xvfb xdotool fakeroot desktop-file-utils"
+$package_packages xvfb xdotool fakeroot desktop-file-utils at-spi2-core dbus \
+python3-gi gir1.2-atspi-2.0"
 
 install_missing() {
   local missing=() package

@@ -110,7 +110,7 @@ Layout FrmSelectEducator::Arrange() {
                         Place(cmdLoad2), Space(), Place(cmdPrint), Place(chAll),
                         Place(cmdPrintSurvey)})},
              1),
-       FootOf(RowOf({Place(cmdPrevious), Place(cmdMenu), Space()}))});
+       FootOf(RowOf({Place(cmdPrevious), Gap(), Place(cmdMenu), Space()}))});
 }
 
 void FrmSelectEducator::Form_Load() {

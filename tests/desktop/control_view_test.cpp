@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -79,8 +80,10 @@ class ControlViewTest : public DesktopTest {
 TEST_F(ControlViewTest, ATextBoxTakesWhatItsControlTakesAndKeepsTheCursor) {
   auto& line = user_->The<QLineEdit>("txtDigits");
   EXPECT_EQ(line.accessibleName(), "Digits") << "as the label beside it says";
+  QSignalSpy changes(&line, &QLineEdit::textChanged);
   user_->Type("1x9");
   EXPECT_EQ(line.text(), "19");
+  EXPECT_EQ(changes.count(), 2) << "a refused letter is not heard to come and go";
   line.setCursorPosition(1);
   user_->Type("y23z");
   EXPECT_EQ(sample().txtDigits.Text, "1239");

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressDialog>
+#include <QWheelEvent>
 
 #include "desktop/qt_dialogs.h"
 #include "desktop_fixture.h"
@@ -160,6 +161,29 @@ TEST_F(DesktopTest, EscInADialogPressesItsCancelWithItsQuestion) {
   user_->OnDialog([this](QWidget&) { user_->Press(Qt::Key_Escape); });
   user_->Click("cmdDisclaimer");
   EXPECT_EQ(Front(), "frmMainMenu");
+}
+
+TEST_F(DesktopTest, TablesAreZoomedByKeyAndWheelAndStaySo) {
+  OpenSiteAt("frmPage8");
+  const auto row = [&](const char* grid) { return user_->The<GridView>(grid).rowHeight(6); };
+  const int usual = row("gridNCV(1)");
+  user_->Press(Qt::Key_Plus, Qt::ControlModifier);
+  user_->Press(Qt::Key_Plus, Qt::ControlModifier);
+  QWidget& viewport = *user_->The<GridView>("gridNCV(1)").viewport();
+  const auto turn = [&](int by) {
+    QWheelEvent wheel({5, 5}, viewport.mapToGlobal(QPointF(5, 5)), {}, {0, by}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&viewport, &wheel);
+  };
+  turn(120);
+  EXPECT_NEAR(row("gridNCV(1)"), usual * 1.3, 2);
+  turn(-120);
+  EXPECT_NEAR(row("gridNCV(1)"), usual * 1.2, 2);
+  desktop_->host().Start("frmPage9");
+  QCoreApplication::processEvents();
+  EXPECT_NEAR(row("gridNCV(1)"), usual * 1.2, 2) << "all tables have one size";
+  user_->Press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(row("gridNCV(1)"), usual);
 }
 
 TEST_F(DesktopTest, ENTERSearchesASubjectAndATextTicksTheBoxBesideIt) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <map>
 #include <set>
 
 #include "desktop/colors.h"
@@ -45,6 +46,39 @@ class EveryFormTest : public DesktopTest {
 TEST_F(EveryFormTest, ATableIsFilledByFiguresAndEnterAlone) {
   ForEachForm({640, 420}, [this] { inspector_.FillTables(); });
   EXPECT_GT(inspector_.tables_filled(), 30);
+}
+
+// Going from page to page nothing jumps: tables begin and end at one place, and so do the buttons.
+TEST_F(EveryFormTest, AllPagesHaveOneGrid) {
+  // The second is what a screen of 1366 x 768 has at 200 %.
+  for (const QSize window : {QSize(1366, 700), QSize(667, 336)}) {
+    std::map<std::string, std::set<int>> places;
+    ForEachForm(window, [&] {
+      const auto note = [&](const std::string& what, const QWidget& widget, int across) {
+        places[what].insert(widget.mapTo(&Window(), QPoint(across, 0)).x());
+      };
+      for (const char* name : {"cmdPrevious", "cmdMenu"}) {
+        const auto* button = user_->Front().findChild<QPushButton*>(name);
+        if (button != nullptr && button->text() != "Staff List" && button->text() != "Main Menu") {
+          note(name, *button, 0);
+        }
+      }
+      if (const auto* save = user_->Front().findChild<QPushButton*>("cmdSave");
+          save != nullptr && user_->Front().findChild<QPushButton*>("cmdPrintPage") != nullptr) {
+        note("cmdSave", *save, save->width());
+        for (const GridView* table : user_->Front().findChildren<GridView*>()) {
+          note("left", *table, 0);
+          EXPECT_GE(table->height(), table->minimumSizeHint().height()) << Front();
+          // In a narrow window some forms are wider than it, and scroll.
+          if (window.width() > 1000) note("right", *table, table->width());
+        }
+      }
+    });
+    for (const auto& [what, at] : places) EXPECT_EQ(at.size(), 1U) << what;
+    if (window.width() > 1000) {
+      EXPECT_EQ(places["cmdSave"], places["right"]);
+    }
+  }
 }
 
 TEST_F(EveryFormTest, TabReachesEveryControlAndScreenReadersFindANameForIt) {

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QWheelEvent>
 
+#include "desktop/grid_accessible.h"
 #include "grid/test_designs.h"
 #include "tables_fixture.h"
 
@@ -178,20 +179,47 @@ TEST_F(GridViewTest, ListChoosesRows) {
   EXPECT_FALSE(list.selectionModel()->hasSelection()) << "the form has forgotten the choice";
 }
 
-TEST_F(GridViewTest, SaysWhatItShows) {
+TEST_F(GridViewTest, SaysWhatItShowsAndIsWorkedByScreenReaders) {
   GridView& view = Table("pairs");
   pairs().SetText(3, 4, "5");
   pairs().SetNote(7, 4, {"=", "Balances."});
-  for (const auto& [column, row, text] : {std::tuple{3, 4, "Table 7, 7.1 Female, First block: 5"},
-                                          {4, 4, "Table 7, 7.1 Female, Second: empty, locked"},
-                                          {7, 4, "Table 7, 7.1 Female, Total: 5, total, Balances."},
-                                          {6, 12, "Table 7, row 12, Remark: not ticked"}}) {
-    const QModelIndex cell = view.model()->index(row - 1, column - 1);
-    EXPECT_EQ(cell.data(Qt::AccessibleTextRole).toString(), text);
+  QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(&view);
+  EXPECT_EQ(accessible.text(QAccessible::Name), "Table 7");
+  EXPECT_EQ(accessible.tableInterface()->columnDescription(2), "First block");
+  const auto cell = [&](int column, int row) {
+    return accessible.tableInterface()->cellAt(row - 1, column - 1);
+  };
+  for (const auto& [column, row, text] : {std::tuple{3, 4, "7.1 Female, First block: 5"},
+                                          {4, 4, "7.1 Female, Second: empty, locked"},
+                                          {7, 4, "7.1 Female, Total: 5, total, Balances."},
+                                          {6, 12, "row 12, Remark: not ticked"}}) {
+    EXPECT_EQ(cell(column, row)->text(QAccessible::Name), text);
   }
-  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&view);
-  EXPECT_EQ(accessible->text(QAccessible::Name), "Table 7");
-  EXPECT_EQ(accessible->tableInterface()->columnDescription(2), "First block");
+  EXPECT_EQ(accessible.indexOfChild(cell(3, 4)), 4 * 8 + 3) << "as the toolkit counts in events";
+  const auto heard = Listen(pairs());
+  cell(6, 12)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(At(6, 12), "1");
+  EXPECT_EQ(heard->back(), "check 6,12") << "as after a click on the box";
+  EXPECT_EQ(cell(6, 12)->text(QAccessible::Name), "row 12, Remark: ticked");
+  const auto clicks = Listen(form().list);
+  QAccessibleInterface& names = *QAccessible::queryAccessibleInterface(&Table("list"));
+  CellAccessibleOf(names, 2, 4)->actionInterface()->doAction("Press");
+  EXPECT_EQ(clicks->back(), "click 2,4");
+  CellAccessibleOf(names, 2, 0)->actionInterface()->doAction("Press");
+  EXPECT_EQ(clicks->back(), "click 2,0") << "the head, by which a list is sorted";
+}
+
+TEST_F(GridViewTest, TakesTheRoomThereIsAndCanBeZoomed) {
+  GridView& view = Table("pairs");
+  desktop_->view().window().resize(1300, 500);
+  QCoreApplication::processEvents();
+  const QRect wide = Place(view, 7, 3);
+  EXPECT_GT(wide.right() + view.verticalHeader()->width(), view.width() - 40);
+  view.SetZoom(200);
+  EXPECT_NEAR(Place(view, 7, 3).height(), 2 * wide.height(), 2);
+  GoTo(3, 3);
+  user_->Type("1");
+  EXPECT_GT(Editor()->fontInfo().pixelSize(), 20) << "what is typed is as large";
 }
 
 }  // namespace

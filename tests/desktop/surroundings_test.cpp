@@ -72,11 +72,16 @@ TEST_F(SurroundingsTest, PanesComeWithTheSiteAndAreFoundAsTheyWereLeft) {
   EXPECT_TRUE(Shows("checksPane"));
   user_->Press(Qt::Key_F9);
   EXPECT_FALSE(Shows("contentsPane"));
+  user_->Press(Qt::Key_Minus, Qt::ControlModifier);
   Window().setGeometry(5000, 4000, 700, 500);
   StartAgain();
   EXPECT_EQ(Window().size(), QSize(700, 500));
   EXPECT_TRUE(Window().screen()->availableGeometry().contains(Window().geometry()));
   OpenSiteAt("frmPage3");
+  const auto row = [&] { return user_->The<GridView>("gridEnrolment").rowHeight(6); };
+  const int small = row();
+  user_->Press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_NEAR(small, row() * 0.9, 2);
   EXPECT_FALSE(Shows("contentsPane"));
   EXPECT_TRUE(Shows("checksPane"));
   user_->Click("cmdMenu");
