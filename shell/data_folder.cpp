@@ -18,6 +18,8 @@ constexpr char kDataFolder[] = "Data2012";
 // What the engine lays beside a database, named after it.
 constexpr const char* kCompanions[] = {"-journal", "-wal"};
 
+std::string Quoted(const fs::path& path) { return '"' + Utf8(path) + '"'; }
+
 void CopyFile(const fs::path& original, const fs::path& path) {
   constexpr std::size_t kBytesAtOnce = 1 << 16;
   std::ifstream source(original, std::ios::binary);
@@ -73,19 +75,23 @@ Found DataFolder::Look(const std::string& name) const {
   return left == fs::file_type::directory ? Found::kYes : Found::kNo;
 }
 
-void DataFolder::CopyTemplate(const std::string& name) const {
+std::string DataFolder::CopyTemplate(const std::string& name) const {
   const fs::path original = program_folder_ / kTemplateFile;
   std::error_code error;
-  if (!fs::is_regular_file(original, error)) return;
+  if (!fs::is_regular_file(original, error)) return Quoted(original) + " is missing";
+  fs::create_directory(folder_, error);
+  if (error) return "the folder " + Quoted(folder_) + " cannot be made: " + error.message();
   for (const char* companion : kCompanions) {
-    fs::remove(ToPath(PathOf(name) + companion), error);
-    if (error) return;
+    const fs::path left = ToPath(PathOf(name) + companion);
+    fs::remove(left, error);
+    if (error) return Quoted(left) + " cannot be removed: " + error.message();
   }
   try {
     CopyFile(original, ToPath(PathOf(name)));
-  } catch (const RunTimeError&) {
-    // Whoever opens the database says that there is none.
+  } catch (const RunTimeError& failure) {
+    return failure.what();
   }
+  return {};
 }
 
 }  // namespace survey

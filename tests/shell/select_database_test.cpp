@@ -1,24 +1,25 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <ctime>
 #include <fstream>
 #include <set>
 
 #include "platform/program_folder.h"
 #include "shell/data_folder.h"
+#include "shell/database_name.h"
 #include "shell/register_shell.h"
 #include "support/headless_program.h"
+#include "support/protected.h"
 
 namespace survey::testing {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
@@ -81,6 +82,18 @@ class SelectDatabase : public HeadlessProgram, public ::testing::Test {
       form.Find<TextBox>("txtDatabaseName").Enter(name);
       form.Find<Button>("cmdOk").Click();
     });
+  }
+  void ExpectNotMade(const std::string& cause) {
+    Start("chkNew");
+    NameNewDatabase("Zinnia");
+    Continue();
+    EXPECT_EQ(Front(), "frmSelectCollege");
+    ASSERT_EQ(dialogs.seen.size(), 1u);
+    EXPECT_EQ(dialogs.seen[0].picture, Picture::kError);
+    EXPECT_THAT(LastBox(),
+                AllOf(HasSubstr("does not exist. It could not be made: "), HasSubstr(cause)));
+    EXPECT_FALSE(fs::exists(Data() / "Zinnia.mdb"));
+    host.Unload(host.Get("frmSelectCollege"));
   }
 };
 
@@ -212,7 +225,7 @@ TEST_F(SelectDatabase, ANewDatabaseTakesNothingOverFromOneThatWasThrownAway) {
   const fs::path journal = Data() / "North.mdb-journal";
   {
     CipherKeys keys;
-    const auto killed = Connection::Open(database, DatabasePassword(), keys);
+    const auto killed = Connection::Open(database.string(), DatabasePassword(), keys);
     killed->Execute(
         "Insert into tbl_StaffTraining(CourseName) with recursive n(i) as (select 1 union all "
         "select i + 1 from n where i < 5000) select hex(randomblob(500)) from n");
@@ -228,29 +241,6 @@ TEST_F(SelectDatabase, ANewDatabaseTakesNothingOverFromOneThatWasThrownAway) {
   EXPECT_THAT(dialogs.seen, IsEmpty());
   EXPECT_EQ(Bytes(database), Bytes(TemplateFile()));
   EXPECT_EQ(std::distance(fs::directory_iterator(Data()), {}), 1);
-}
-
-// The child is killed by the first byte beyond what a file may hold.
-TEST_F(SelectDatabase, AKillInTheCopyLeavesNoDatabaseAndItsNameFree) {
-  DataFolder data(folder.path());
-  data.MakeSure();
-  const pid_t program = fork();
-  if (program == 0) {
-    const rlimit few{20'000, 20'000};
-    setrlimit(RLIMIT_FSIZE, &few);
-    data.CopyTemplate("North");
-    _exit(0);
-  }
-  int status = 0;
-  waitpid(program, &status, 0);
-  ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ);
-  EXPECT_THAT(data.Names(), IsEmpty());
-  ASSERT_EQ(data.Look("North"), Found::kNo);
-  const auto left = *fs::directory_iterator(Data());
-  fs::last_write_time(left.path(), fs::file_time_type::clock::now() - std::chrono::hours(2));
-  data.CopyTemplate("North");
-  EXPECT_EQ(Bytes(Data() / "North.mdb"), Bytes(TemplateFile()));
-  EXPECT_FALSE(fs::exists(left.path()));
 }
 
 TEST_F(SelectDatabase, AChosenDatabaseIsCopiedOnceADayAndTenTimesAtMost) {
@@ -303,8 +293,8 @@ TEST_F(SelectDatabase, ACopyThatFailsIsToldOnceAndStopsNothing) {
   std::ofstream(Data() / "Backups") << "in the way";
   ChooseNorth();
   ASSERT_EQ(dialogs.seen.size(), 1u);
-  EXPECT_THAT(LastBox(), ::testing::AllOf(HasSubstr("No backup copy of the database could be made"),
-                                          HasSubstr("Not a directory")));
+  EXPECT_THAT(LastBox(), AllOf(HasSubstr("No backup copy of the database could be made"),
+                               HasSubstr("Not a directory")));
   EXPECT_EQ(Front(), "frmSelectCollege");
 }
 
@@ -342,6 +332,17 @@ TEST_F(SelectDatabase, NamesOfNewDatabasesAreRefusedAndExitEndsTheProgramAtOnce)
     for (const char* taken : {"North", "../outside", "sub/name", long_for_its_journal.c_str()}) {
       EXPECT_EQ(try_name(taken), "This database name already exists. Please supply another name.|");
     }
+    for (const auto& [forbidden, told] : {std::pair{"a?b<c", "the sign ?"},
+                                          {"Duinekop: Campus", "the sign :"},
+                                          {"North ..", "end with a full stop"},
+                                          {"a\tb", "a tab"},
+                                          {"nul", "\"nul\""},
+                                          {"Com¹ .x", "\"Com¹\""}}) {
+      EXPECT_THAT(try_name(forbidden), AllOf(HasSubstr(told), EndsWith("|"s + forbidden)));
+    }
+    for (const char* free : {"Conrad", "COM10", "LPT", "St. John's & Co", "São"}) {
+      EXPECT_EQ(WhyNoName(free), "");
+    }
     form.Find<Button>("cmdCancel").Click();
   });
   Continue();
@@ -370,14 +371,17 @@ TEST_F(SelectDatabase, AboutDoesWithoutSystemInformation) {
 
 TEST_F(SelectDatabase, AMissingTemplateShowsOnTheSiteList) {
   fs::remove(folder.path() / kTemplateFile);
-  Start();
-  Tick("chkNew");
-  NameNewDatabase("Zinnia");
-  Continue();
-  EXPECT_EQ(Front(), "frmSelectCollege");
-  ASSERT_EQ(dialogs.seen.size(), 1u);
-  EXPECT_EQ(dialogs.seen[0].picture, Picture::kError);
-  EXPECT_FALSE(fs::exists(Data() / "Zinnia.mdb"));
+  ExpectNotMade("CorvaleAnnualOstrel2012.mdb\" is missing");
+}
+
+TEST_F(SelectDatabase, AProtectedFolderShowsOnTheSiteList) {
+  {
+    const Protected program(folder.path());
+    ExpectNotMade("Data2012\" cannot be made: Permission denied");
+  }
+  fs::create_directory(Data());
+  const Protected databases(Data());
+  ExpectNotMade("Zinnia.mdb\" cannot be written: Permission denied");
 }
 
 }  // namespace
