@@ -1,5 +1,6 @@
 #include "desktop/desktop.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
 #include <QProxyStyle>
@@ -12,12 +13,14 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_program_folder.h"
 #include "desktop/qt_settings.h"
+#include "desktop/system_habits.h"
 #include "forms/message_boxes.h"
 
 namespace survey {
 namespace {
 
 constexpr int kMarkLineAlpha = 170;
+constexpr int kFrameLine = 130;  // percent darker than the window
 
 // The same looks on every desktop, so that colours which mean something are seen everywhere.
 class SurveyStyle : public QProxyStyle {
@@ -34,6 +37,10 @@ class SurveyStyle : public QProxyStyle {
   // The style's own lines around a mark to tick are too faint for weak eyes.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+    if (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+      DrawFrame(*option, *painter);
+      return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool is_box = element == PE_IndicatorCheckBox;
     if (!is_box && element != PE_IndicatorRadioButton) return;
@@ -61,6 +68,18 @@ class SurveyStyle : public QProxyStyle {
     // A mark to tick is as large as the text beside it.
     return is_mark && widget != nullptr ? std::max(usual, widget->fontMetrics().ascent()) : usual;
   }
+
+ private:
+  // The style's own line lies beside the pixels that the frame has on screens at 150 %, where what
+  // is inside covers it.
+  static void DrawFrame(const QStyleOption& option, QPainter& painter) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(option.palette.color(QPalette::Window).darker(kFrameLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+  }
 };
 
 }  // namespace
@@ -86,6 +105,7 @@ void SetUpApplication() {
   QCoreApplication::setOrganizationName("Corvale");
   QCoreApplication::setApplicationName(kProgramName);
   QApplication::setStyle(new SurveyStyle);
+  UseSharpFonts();
   QApplication::setWindowIcon(ProgramIcon());
   // A program without a window may still be about to show its next one.
   QApplication::setQuitOnLastWindowClosed(false);

@@ -2,8 +2,8 @@
 
 #include <cerrno>
 
-#include "faults/disk_faults.h"
 #include "faults/file_faults.h"
+#include "support/disk_faults.h"
 #include "support/filled_site.h"
 #include "support/page_test.h"
 

@@ -18,6 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 using ::testing::AllOf;
+using ::testing::AnyOf;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
@@ -55,8 +56,10 @@ class SelectDatabase : public HeadlessProgram, public ::testing::Test {
     std::ifstream stream(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
   }
-  static void ExpectOfOwnerAlone(const fs::path& path) {
+  static void ExpectOfOwnerAlone([[maybe_unused]] const fs::path& path) {
+#ifndef _WIN32  // where the rights of the folder decide
     EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+#endif
   }
   // Chooses the only database of the list, in a program that has just started.
   void ChooseNorth() {
@@ -294,7 +297,7 @@ TEST_F(SelectDatabase, ACopyThatFailsIsToldOnceAndStopsNothing) {
   ChooseNorth();
   ASSERT_EQ(dialogs.seen.size(), 1u);
   EXPECT_THAT(LastBox(), AllOf(HasSubstr("No backup copy of the database could be made"),
-                               HasSubstr("Not a directory")));
+                               AnyOf(HasSubstr("Not a directory"), HasSubstr("No such file"))));
   EXPECT_EQ(Front(), "frmSelectCollege");
 }
 

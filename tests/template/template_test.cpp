@@ -38,7 +38,7 @@ TEST_F(TemplateTest, AppearsWholeOrNotAtAll) {
   MakeTemplate(SmallLists(), path_);
   EXPECT_NE(ReadBytes(path_), before);
   FailsWith(14, [&] { MakeTemplate(SmallLists(), folder_); });
-  FailsWith(14, [&] { MakeTemplate(SmallLists(), folder_ / "none" / "x.mdb"); });
+  FailsWith(14, [&] { MakeTemplate(SmallLists(), (folder_ / "none" / "x.mdb").string()); });
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
 }
 

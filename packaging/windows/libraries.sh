@@ -1,0 +1,82 @@
+# The libraries for Windows, built from Debian's source packages. Sourced by ./windows.
+#
+# Each has a recipe in libraries/ and a folder of its own in the cache, keyed by its recipe, the sums of
+# its sources and the toolchain: what changes is built anew, and nothing else.
+
+windows_cache=${XDG_CACHE_HOME:-$HOME/.cache}/corvale-survey/windows
+windows_packaging=$PWD/packaging/windows
+toolchain=$PWD/cmake/mingw64.cmake
+jobs=$(nproc)
+
+# apt-get with lists of source packages of its own; the system's settings and lists stay as they are.
+source_apt() {
+  apt-get -q -o Acquire::Languages=none -o APT::Sandbox::User="$(id -un)" \
+    -o Dir::Etc::sourcelist="$windows_cache/sources.list" -o Dir::Etc::sourceparts=/dev/null \
+    -o Dir::State::lists="$windows_cache/lists" "$@"
+}
+
+# Of the mirrors that the system uses itself. Debian keeps the later store engine among its backports.
+refresh_source_lists() {
+  mkdir -p "$windows_cache/lists/partial"
+  local mirror suite keyring=/usr/share/keyrings/debian-archive-keyring.gpg
+  apt-get indextargets --format '$(REPO_URI) $(CODENAME)' 'Created-By: Packages' 'Origin: Debian' \
+    'Component: main' | sort -u | while read -r mirror suite; do
+    echo "deb-src [signed-by=$keyring] $mirror $suite main"
+    [ "$suite" != bookworm ] || echo "deb-src [signed-by=$keyring] $mirror $suite-backports main"
+  done > "$windows_cache/sources.list"
+  source_apt update
+}
+
+# Brings the files of a source package that sources.sha256 names into the current folder; options are
+# those of `apt-get source`. Fails where one cannot be had or is not what it was.
+fetch_sources() {  # PACKAGE VERSION [OPTION ...]
+  local package=$1 version=$2 kept=$windows_cache/sources
+  shift 2
+  mkdir -p "$kept"
+  grep " ${package}_" "$windows_packaging/sources.sha256" > sums
+  if ! (cd "$kept" && sha256sum --check --quiet) < sums > /dev/null 2>&1; then
+    refresh_source_lists
+    (cd "$kept" && source_apt source --download-only "$@" "$package=$version")
+    (cd "$kept" && sha256sum --check --quiet) < sums || {
+      echo "The sources of $package $version are not to be had as they were: docs/windows.md, Renewing."
+      return 1
+    }
+  fi
+  sed 's/^[0-9a-f]* [ *]//' sums | while read -r file; do ln -s "$kept/$file" .; done
+}
+
+# Where the built library lies, or shall lie.
+library_prefix() {  # NAME
+  local recipe=$windows_packaging/libraries/$1.sh package
+  package=$(sed -n 's/^fetch_sources \([^ ]*\).*/\1/p' "$recipe")
+  echo "$windows_cache/$1-$({ cat "$recipe" "$toolchain"
+    grep " ${package:-none}_" "$windows_packaging/sources.sha256" || true
+  } | sha256sum | cut -c 1-12)"
+}
+
+# Builds a library where its folder is missing, and links it into build/windows-libraries.
+library() {  # NAME
+  local name=$1 prefix work status
+  prefix=$(library_prefix "$name")
+  if [ ! -d "$prefix" ]; then
+    echo "$(date +%T) building $name for Windows"
+    mkdir -p "$windows_cache"
+    work=$(mktemp -d -p "$windows_cache")
+    # In a shell of its own, which ends at the first failure; the folder comes under its name when
+    # it is whole.
+    set +e
+    (set -e; cd "$work"; prefix=$work/prefix; . "$windows_packaging/libraries/$name.sh") \
+      > "$work/log" 2>&1 < /dev/null
+    status=$?
+    set -e
+    if [ "$status" -ne 0 ]; then
+      tail -n 30 "$work/log" >&2
+      echo "$name could not be built: $work/log" >&2
+      return 1
+    fi
+    mv "$work/prefix" "$prefix"
+    rm -rf "$work"
+  fi
+  mkdir -p build/windows-libraries
+  ln -sfn "$prefix" "build/windows-libraries/$name"
+}
