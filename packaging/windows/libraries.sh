@@ -8,37 +8,46 @@ windows_packaging=$PWD/packaging/windows
 toolchain=$PWD/cmake/mingw64.cmake
 jobs=$(nproc)
 
-# apt-get with lists of source packages of its own; the system's settings and lists stay as they are.
-source_apt() {
+# apt-get with lists of its own; the system's settings and lists stay as they are.
+own_apt() {
   apt-get -q -o Acquire::Languages=none -o APT::Sandbox::User="$(id -un)" \
-    -o Dir::Etc::sourcelist="$windows_cache/sources.list" -o Dir::Etc::sourceparts=/dev/null \
     -o Dir::State::lists="$windows_cache/lists" "$@"
+}
+source_apt() {
+  own_apt -o Dir::Etc::sourcelist="$windows_cache/sources.list" -o Dir::Etc::sourceparts=/dev/null "$@"
 }
 
 # Of the mirrors that the system uses itself. Debian keeps the later store engine among its backports.
 refresh_source_lists() {
-  mkdir -p "$windows_cache/lists/partial"
   local mirror suite keyring=/usr/share/keyrings/debian-archive-keyring.gpg
-  apt-get indextargets --format '$(REPO_URI) $(CODENAME)' 'Created-By: Packages' 'Origin: Debian' \
+  [ -z "$(find "$windows_cache/lists/fetched" -mmin -60 2> /dev/null)" ] || return 0
+  mkdir -p "$windows_cache/lists/partial"
+  own_apt update
+  own_apt indextargets --format '$(REPO_URI) $(CODENAME)' 'Created-By: Packages' 'Origin: Debian' \
     'Component: main' | sort -u | while read -r mirror suite; do
     echo "deb-src [signed-by=$keyring] $mirror $suite main"
     [ "$suite" != bookworm ] || echo "deb-src [signed-by=$keyring] $mirror $suite-backports main"
   done > "$windows_cache/sources.list"
   source_apt update
+  touch "$windows_cache/lists/fetched"
 }
 
 # Brings the files of a source package that sources.sha256 names into the current folder; options are
 # those of `apt-get source`. Fails where one cannot be had or is not what it was.
 fetch_sources() {  # PACKAGE VERSION [OPTION ...]
-  local package=$1 version=$2 kept=$windows_cache/sources
+  local package=$1 version=$2 kept=$windows_cache/sources first
   shift 2
+  first=${package}_$version.dsc
+  [ "$*" != --tar-only ] || first=${package}_${version%-*}.orig.tar
   mkdir -p "$kept"
   grep " ${package}_" "$windows_packaging/sources.sha256" > sums
-  if ! (cd "$kept" && sha256sum --check --quiet) < sums > /dev/null 2>&1; then
+  # The sums must be of that version.
+  are_there() { grep -qF " $first" sums && (cd "$kept" && sha256sum --check --quiet) < sums; }
+  if ! are_there > /dev/null 2>&1; then
     refresh_source_lists
-    (cd "$kept" && source_apt source --download-only "$@" "$package=$version")
-    (cd "$kept" && sha256sum --check --quiet) < sums || {
-      echo "The sources of $package $version are not to be had as they were: docs/windows.md, Renewing."
+    (cd "$kept" && source_apt source --download-only "$@" "$package=$version") || true
+    are_there || {
+      echo "What sources.sha256 says of $package $version is not to be had: docs/windows.md, Renewing."
       return 1
     }
   fi
