@@ -274,6 +274,7 @@ class TextBoxWidget : public QLineEdit {
  private:
   void GoOn() {
     if (box_.Default == nullptr) {
+      window()->setAttribute(Qt::WA_KeyboardFocusChange);  // as TAB does: shows the ring
       focusNextChild();
     } else if (commit_entries_()) {
       box_.Default->Click();

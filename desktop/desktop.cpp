@@ -13,6 +13,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_program_folder.h"
 #include "desktop/qt_settings.h"
+#include "desktop/surroundings.h"
 #include "desktop/system_habits.h"
 #include "forms/message_boxes.h"
 
@@ -99,6 +100,7 @@ struct Desktop::Parts {
   Survey survey;
   FormHost host{survey, Platform{dialogs, printer, settings, program_folder}};
   DesktopView view{host};
+  Surroundings surroundings{view, host};
 };
 
 void SetUpApplication() {

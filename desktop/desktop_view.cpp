@@ -72,7 +72,8 @@ class FormDialog : public QDialog {
 DesktopView::DesktopView(FormHost& host)
     : host_(host),
       window_(std::make_unique<MainWindow>([this] { CloseMainWindow(); })),
-      pages_(new QStackedWidget(window_.get())) {
+      column_(new QVBoxLayout),
+      pages_(new QStackedWidget) {
   window_->setObjectName("mainWindow");
   window_->setWindowIcon(ProgramIcon());
   window_->setMinimumSize(kSmallestWindow);
@@ -82,7 +83,12 @@ DesktopView::DesktopView(FormHost& host)
   picture->setPixmap(ProgramIcon().pixmap(QSize(128, 128)));
   no_page_ = picture;
   pages_->addWidget(no_page_);
-  window_->setCentralWidget(pages_);
+  column_->setContentsMargins(0, 0, 0, 0);
+  column_->setSpacing(0);
+  column_->addWidget(pages_, 1);
+  auto* center = new QWidget(window_.get());
+  center->setLayout(column_);
+  window_->setCentralWidget(center);
   host_.set_view(this);
 }
 
@@ -91,6 +97,14 @@ DesktopView::~DesktopView() { host_.set_view(nullptr); }
 QWidget* DesktopView::FrontWindow() const {
   if (!dialogs_.empty()) return dialogs_.back();
   return window_.get();
+}
+
+FormWidget* DesktopView::FrontForm() const {
+  return qobject_cast<FormWidget*>(pages_->currentWidget());
+}
+
+void DesktopView::AddOverForms(QWidget& widget) {
+  column_->insertWidget(column_->count() - 1, &widget);
 }
 
 void DesktopView::Refresh() {

@@ -11,6 +11,7 @@
 #include "forms/form_host.h"
 
 class QStackedWidget;
+class QVBoxLayout;
 
 namespace survey {
 
@@ -29,6 +30,10 @@ class DesktopView : public QObject, public FormsView {
   void RunModal(Form& form) override;
 
   QMainWindow& window() const { return *window_; }
+  // The form that fills the main window; null for none.
+  FormWidget* FrontForm() const;
+  // Puts a widget over the form, whichever it is; it belongs to the window from now on.
+  void AddOverForms(QWidget& widget);
   // The window that boxes belong to: the last dialog, else the main window.
   QWidget* FrontWindow() const;
 
@@ -46,6 +51,7 @@ class DesktopView : public QObject, public FormsView {
 
   FormHost& host_;
   std::unique_ptr<QMainWindow> window_;
+  QVBoxLayout* column_;  // the stack, and what is over it
   QStackedWidget* pages_;
   QWidget* no_page_;  // seen while a modal form has no other beneath
   std::map<Form*, FormWidget*> widgets_;

@@ -55,6 +55,7 @@ void EntryNote::FollowScrolling() {
 
 // Below the cell where the window has room, else above it; nowhere while the cell is scrolled away.
 void EntryNote::Place() {
+  if (!label_) return;  // hidden, but not yet gone
   const QRect cell = view_.visualRect(view_.model()->index(cell_.row - 1, cell_.column - 1));
   label_->setVisible(cell.intersects(view_.viewport()->rect()));
   const QWidget& window = *view_.window();

@@ -150,7 +150,10 @@ void FormWidget::Refresh() {
   if (before != nullptr && !before->isVisibleTo(this)) begun_ = false;
   if (const Control* wished = form_.TakeFocusRequest()) {
     begun_ = true;
-    if (QWidget* widget = WidgetOf(*wished)) widget->setFocus();
+    if (QWidget* widget = WidgetOf(*wished)) {
+      window()->setAttribute(Qt::WA_KeyboardFocusChange);  // the ring shows where it has gone
+      widget->setFocus();
+    }
   } else if (!begun_) {
     begun_ = true;
     BeginEntry();

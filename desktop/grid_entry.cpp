@@ -140,7 +140,10 @@ void GridEntry::Refresh() {
 }
 
 void GridEntry::Abandon() {
-  if (IsOpen()) line_->removeEventFilter(this);
+  if (!IsOpen()) return;
+  line_->removeEventFilter(this);
+  qApp->removeEventFilter(this);  // or it would ask about a line that is half gone
+  line_ = nullptr;
 }
 
 // ---- What the user does in the line --------------------------------------------------------

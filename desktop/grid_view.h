@@ -32,6 +32,8 @@ class GridView : public QTableView {
   explicit GridView(GridControl& grid, QWidget* parent = nullptr);
   ~GridView() override;
 
+  const Grid& grid() const { return grid_; }
+
   // Shows what has changed in the grid since the last call; cheap when nothing has.
   void Refresh();
 

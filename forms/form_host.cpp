@@ -99,14 +99,16 @@ void FormHost::RunOffScreen(const std::string& name, const std::function<void(Fo
   form->Form_Unload();
 }
 
+bool FormHost::MayLose(const Button& cmdSave) {
+  return cmdSave.BackColor != kYellow ||
+         boxes_.ExtendedMsgBox(
+             "You have NOT saved your data. Are you sure you want to exit without saving?",
+             kYesNo + kSecondButtonDefault, "Data has NOT been Saved", Picture::kStop,
+             "") != kAnswerNo;
+}
+
 bool FormHost::ConfirmUnsaved(const Button& cmdSave, Form& form) {
-  if (cmdSave.BackColor == kYellow &&
-      boxes_.ExtendedMsgBox(
-          "You have NOT saved your data. Are you sure you want to exit without saving?",
-          kYesNo + kSecondButtonDefault, "Data has NOT been Saved", Picture::kStop,
-          "") == kAnswerNo) {
-    return false;
-  }
+  if (!MayLose(cmdSave)) return false;
   Unload(form);
   return true;
 }

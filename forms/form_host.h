@@ -81,6 +81,8 @@ class FormHost {
   void RunOffScreen(const std::string& name, const std::function<void(Form&)>& work);
   bool IsOffScreenWork() const { return unseen_ > 0; }
 
+  // Answers whether what `cmdSave` has not saved may be lost; asks where it is yellow.
+  bool MayLose(const Button& cmdSave);
   // Answers whether the form may be left: unloads it at once when `cmdSave` is not yellow, else
   // asks first. After a No nothing has changed.
   bool ConfirmUnsaved(const Button& cmdSave, Form& form);

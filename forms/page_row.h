@@ -11,6 +11,7 @@
 #include "forms/message_boxes.h"
 #include "grid/cell.h"
 #include "printing/page_print.h"
+#include "records/kept_table.h"
 
 namespace survey {
 
@@ -64,10 +65,13 @@ struct PageRow {
   PageMaker make;
   std::string_view caption;  // handed to SurveyCaption
   std::vector<MenuPlace> menu = {};
+  std::string_view staff_list_button = {};  // that leads from the staff list to the page, if any
   std::vector<Link> links;
   PageErrors errors;
   MarkCleared mark;
   std::vector<Reconciliation> totals = {};
+  // What it keeps of the survey, in survey order.
+  const std::vector<KeptTable>& (*kept)() = nullptr;
   PagePrint paper;
   bool in_campus_print = false;                // a sheet of the printed campus survey
   std::optional<StaffSheet> staff_print = {};  // what it adds to the print of a staff member

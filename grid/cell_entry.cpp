@@ -262,6 +262,29 @@ std::string RequestOf(const CellKind& kind) {
   return std::string(kTakesNothing);
 }
 
+std::string LimitsOf(const CellKind& kind) {
+  const std::string length = std::to_string(kind.length);
+  switch (kind.type) {
+    case CellKind::Type::kNumber: {
+      const std::string range = NumberText(kind.minimum) + " to " + LargestText(kind);
+      if (kind.decimals == 0) return range + ", whole number";
+      return range + ", up to " + std::to_string(kind.decimals) +
+             (kind.decimals == 1 ? " decimal" : " decimals");
+    }
+    case CellKind::Type::kText:
+      return "text, up to " + length + " characters";
+    case CellKind::Type::kDigits:
+      return "digits only, up to " + length;
+    case CellKind::Type::kDate:
+      return "date, yyyy/mm/dd";
+    case CellKind::Type::kCheckBox:
+      return "box to tick, space bar";
+    case CellKind::Type::kLabel:
+      break;
+  }
+  return {};
+}
+
 std::optional<double> NumberHeld(std::string_view text) {
   if (text.empty()) return std::nullopt;
   const auto read = ReadNumber(Trim(text), false);

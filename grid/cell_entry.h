@@ -29,6 +29,9 @@ inline constexpr std::string_view kTakesNothing = "This cell takes no entry.";
 // What the kind takes, as a request to the user: "Enter a whole number from 0 to 99999."
 std::string RequestOf(const CellKind& kind);
 
+// The same in a few words, "0 to 99999, whole number"; "" of a label.
+std::string LimitsOf(const CellKind& kind);
+
 // The number that a sum finds in a cell: none in an empty cell and in words, even where these
 // begin with a digit.
 std::optional<double> NumberHeld(std::string_view text);

@@ -69,6 +69,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage2", "SavePage Routine"},
                   .print = {"frmPage2", "Print Routine"}},
        .mark = kAfter,
+       .kept = FrmPage2::Kept,
        .paper = {Head::kEmis, " General Information", {
            {"gridPage2_1", -1, 600, 1200}, {"gridGeneralInfo", -1, 600, 3500}}},
        .in_campus_print = true},
@@ -86,6 +87,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = kNone,
                   .print = {"frmPage2", "Print Routine"}},
        .mark = kNever,
+       .kept = FrmHostels::Kept,
        .paper = {Head::kEmis, " Hostel and SETA Information", {
            {"gridhostels", -1, 600, 1200}, {"gridSETA", -1, 600, 3500}}},
        .in_campus_print = true},
@@ -104,6 +106,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage4", "SavePage Routine"},
                   .print = {"frmPage4", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmPage4::Kept,
        .paper = {Head::kCampusEmis, " Staff Count Information ", {
            {"gridPage4_2", -1, 300, 3000}, {"gridLectureStaff", -1, 300, 8000}}},
        .in_campus_print = true},
@@ -121,6 +124,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmStudentTotal", "SavePage Routine"},
                   .print = {"frmStudentTotal", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmStudentTotal::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information ", {
            {"gridEnrolment", -1, 300, 1200}, {"gridAgreements", -1, 300, 5000}}},
        .in_campus_print = true},
@@ -138,6 +142,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage3", "SavePage Routine"},
                   .print = {"frmPage3", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmPage3::Kept,
        .paper = {Head::kCampusEmis, " Student Registration", {
            {"gridEnrolment", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -155,6 +160,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage5", "SavePage Routine"},
                   .print = {"frmPage5", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmPage5::Kept,
        .paper = {Head::kCampusEmis, " Student Information", {
            {"gridFTE", 1, 300, 1200}, {"gridFTE", 2, 300, 3500},
            {"gridFTE", 0, 300, 7000}, {"gridReport191", 2, 300, 12000}}},
@@ -180,6 +186,7 @@ const std::vector<PageRow>& SurveyPages() {
             {14, 10}, "txtN4", 5, "lblN4", "Control Total:Table 2.5.5:N5"},
            {"grid191", 0,
             {14, 10}, "txtN5", 6, "lblN5", "Control Total: Table 2.5.6: N6"}},
+       .kept = FrmPage6_1::Kept,
        .paper = {Head::kCampusEmis, " Student Information", {
            {"gridPage6_2", 1, 300, 1200}, {"gridPage6_2", 0, 300, 4500},
            {"grid191", 0, 300, 8000}}},
@@ -201,6 +208,7 @@ const std::vector<PageRow>& SurveyPages() {
        .totals = {
            {"gridNCV", 1,
             {14, 23}, "txtL2", 9, "Label2", "Control Total: Table 2.5.9: Level 2"}},
+       .kept = FrmPage8::Kept,
        .paper = {Head::kCampusEmis, " Student Information", {
            {"gridNCV", 1, 300, 1200}}},
        .in_campus_print = true},
@@ -221,6 +229,7 @@ const std::vector<PageRow>& SurveyPages() {
        .totals = {
            {"gridNCV", 1,
             {14, 23}, "txtL3", 10, "Label2", "Control Total: Table 2.5.10: Level 3"}},
+       .kept = FrmPage9::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridNCV", 1, 300, 1200}}},
        .in_campus_print = true},
@@ -242,6 +251,7 @@ const std::vector<PageRow>& SurveyPages() {
            // The row of "Transport and Logistics", not the grand total.
            {"gridPage8_2", 1,
             {14, 21}, "txtL4", 11, "Label2", "Control Total: Table 2.5.11: Level 4"}},
+       .kept = FrmPage9_1::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridPage8_2", 1, 300, 1200}}},
        .in_campus_print = true},
@@ -266,6 +276,7 @@ const std::vector<PageRow>& SurveyPages() {
             "Label2", "Control Total: Table 2.5.11: NSC"},
            {"gridAET", -1, {14, 8}, "txtAET", 15,
             "Label3", "Control Total: Table 2.5.13: Adult Education and Training"}},
+       .kept = FrmOtherProgrammes::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information", {
            {"gridlevel5", -1, 300, 1200}, {"gridNSC", -1, 300, 5200},
            {"gridAET", -1, 300, 9200}}}},
@@ -283,6 +294,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage12_1", "SavePage Routine"},
                   .print = {"frmPage12_1", "Print Routine"}},
        .mark = kAfter,
+       .kept = FrmPage12_1::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information", {
            {"gridPage12_2", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -303,6 +315,7 @@ const std::vector<PageRow>& SurveyPages() {
        .totals = {
            {"gridPage12_1", 0,
             {14, 16}, "txtOC", 14, "Label3", "Control Total: Table 2.5.14"}},
+       .kept = FrmPage12_2::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information", {
            {"gridPage12_1", 0, 300, 1200}}},
        .in_campus_print = true},
@@ -320,6 +333,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage9_10", "SavePage Routine"},
                   .print = {"frmPage9_10", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmPage9_10::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridPage9_1", -1, 300, 1200}}, true},
        .in_campus_print = true},
@@ -337,6 +351,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage9_10_1", "SavePage Routine"},
                   .print = {"frmPage9_10_1", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmPage9_10_1::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridPage9_1", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -354,6 +369,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage14", "SavePage Routine"},
                   .print = {"frmPage14", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmPage14::Kept,
        .paper = {Head::kCampusEmis, " Student SNE Information", {
            {"gridPage9_1", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -371,6 +387,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmPage14", "SavePage Routine"},
                   .print = {"frmPage13", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmPage13::Kept,
        .paper = {Head::kCampusEmis, "Student Boarder Information", {
            {"gridPage13_1", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -379,6 +396,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Personal details, appointment, training",
        .section = Section::kStaffMember, .make = Make<FrmEducatorData>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdEdit",
        .links = {
            {"cmdNext", "frmLecQualifications1", kNoGuard, kSU, kId},
            {"cmdPrevious", "frmSelectEducator", kOwnGuard, kUnloadOnly}},
@@ -386,6 +404,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = kNone,
                   .print = {"frmEducatorData", "Print Routine"}},
        .mark = kAfter,
+       .kept = FrmEducatorData::Kept,
        .paper = {Head::kEmisAndStaff, " Personnel Details", {
            {"gridgeneral", -1, 300, 1200}, {"gridTraining", -1, 300, 8000}}},
        .staff_print = StaffSheet{.has_head = true,
@@ -397,6 +416,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Qualification types, first part",
        .section = Section::kStaffMember, .make = Make<FrmLecQualifications1>,
        .caption = "Lecturer Qualifications",
+       .staff_list_button = "cmdSpecialisation",
        .links = {
            {"cmdNext", "frmLecQualifications2", kAsk, kUS, kIdAndEmis},
            {"cmdMenu", "frmSelectEducator", kAsk, kUS}},
@@ -404,6 +424,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = kNone,
                   .print = {"frmLecQualifications1", "Print Routine"}},
        .mark = kAfter,
+       .kept = FrmLecQualifications1::Kept,
        .paper = {Head::kStaffDetails, "", {
            {"gridQual", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -421,6 +442,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = kNone,
                   .print = {"frmLecQualifications2", "Print Routine"}},
        .mark = kAfter,
+       .kept = FrmLecQualifications2::Kept,
        .paper = {Head::kStaffDetails, "", {
            {"gridQual", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -431,6 +453,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Subjects qualified to teach",
        .section = Section::kStaffMember, .make = Make<FrmEducatorTeaching1>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdStaffteaching",
        .links = {
            {"cmdForward", "frmEducatorTeaching", kAsk, kSU, kId},
            {"cmdNext", "frmLecQualifications2", kNoGuard, kSU, kId},
@@ -439,6 +462,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmEducatrorTeaching1", "Save Routine"},
                   .print = {"frmEducatorData", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmEducatorTeaching1::Kept,
        .paper = {Head::kCampusEmisAndStaff, " Lecturer Teaching Details", {
            {"gridSubjects", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -449,6 +473,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Months and subjects taught",
        .section = Section::kStaffMember, .make = Make<FrmEducatorTeaching>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdLoad",
        .links = {
            {"cmdForward", "frmEducatorTeaching2", kAsk, kSU, kId},
            {"cmdNext", "frmEducatorTeaching1", kNoGuard, kSU, kId},
@@ -457,6 +482,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmEducatrorTeaching", "Save Routine"},
                   .print = {"frmEducatorData", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmEducatorTeaching::Kept,
        .paper = {Head::kCampusEmisAndStaff, " Lecturer Teaching Details", {
            {"gridmonths", -1, 300, 1200}, {"gridSubjects", -1, 300, 3000}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -468,6 +494,7 @@ const std::vector<PageRow>& SurveyPages() {
        .about = "Teaching fields, other courses",
        .section = Section::kStaffMember, .make = Make<FrmEducatorTeaching2>,
        .caption = "Staff Details",
+       .staff_list_button = "cmdLoad2",
        .links = {
            {"cmdNext", "frmEducatorTeaching", kNoGuard, kSU, kId},
            {"cmdPrevious", "frmSelectEducator", kNoGuard, kSU}},
@@ -475,6 +502,7 @@ const std::vector<PageRow>& SurveyPages() {
                   .save = {"frmStaffQualification", "SavePage Routine"},
                   .print = {"frmEducatorTeaching2", "Print Routine"}},
        .mark = kBefore,
+       .kept = FrmEducatorTeaching2::Kept,
        .paper = {Head::kCampusEmisAndStaff, "  Lecturer Teaching Information", {
            {"gridFields", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,

@@ -84,16 +84,11 @@ void Axis::Place(const Recordset& record, int& index) const {
   }
 }
 
-std::string OfThisSiteAndYear(const Survey& survey) {
-  return NumberText(survey.CollegeEmisNumber) +
-         " and campusemisnumber = " + NumberText(survey.CampusEmisNumber) +
-         " and surveyyear = " + NumberText(survey.SurveyYear);
-}
-
-void LoadCells(Survey& survey, const CellTable& table, Grid& grid, std::optional<int> code) {
+void LoadCells(const SiteRecords& site, const CellTable& table, Grid& grid,
+               std::optional<int> code) {
   Recordset records;
-  records.Open(table.select + OfThisSiteAndYear(survey) + Tail(table.select_tail, code),
-               survey.DatabaseConnection.get());
+  records.Open(table.select + OfThisSiteAndYear(site) + Tail(table.select_tail, code),
+               site.connection);
   Cell cell;
   for (; !records.Eof(); records.MoveNext()) {
     table.rows.Place(records, cell.row);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "grid/grid.h"
+#include "records/site_records.h"
 #include "store/recordset.h"
 #include "store/survey.h"
 
@@ -77,13 +78,10 @@ struct CellTable {
   Filled filled = Filled::kNotEmpty;
 };
 
-// The condition that a record is of the current site and year, behind a statement that ends
-// with the comparison of the college number.
-std::string OfThisSiteAndYear(const Survey& survey);
-
 // Writes each record of the table into its cell; other cells stay as they are. `code` is put
 // behind the tail where one is given. Throws RunTimeError.
-void LoadCells(Survey& survey, const CellTable& table, Grid& grid, std::optional<int> code = {});
+void LoadCells(const SiteRecords& site, const CellTable& table, Grid& grid,
+               std::optional<int> code = {});
 
 // Removes the table's records and stores one for each filled cell, one statement each. What was
 // done before a failure stays done. Throws RunTimeError.

@@ -70,6 +70,16 @@ void ShowAnswers(const Recordset& record, std::span<const Answer> answers, Grid&
   for (const Answer& answer : answers) Show(record.Field(answer.column), answer, grid);
 }
 
+void ShowEachAnswer(const Recordset& record, std::span<const Answer> answers, Grid& grid) {
+  for (const Answer& answer : answers) {
+    const Value& value = record.Field(answer.column);
+    try {
+      Show(value, answer, grid);
+    } catch (const RunTimeError&) {  // as much of it as could be shown is
+    }
+  }
+}
+
 std::string ColumnsOf(std::span<const Answer> answers) {
   std::string columns;
   for (const Answer& answer : answers) (columns += columns.empty() ? "" : ",") += answer.column;

@@ -49,6 +49,9 @@ struct Answer {
 // answers before it are written.
 void ShowAnswers(const Recordset& record, std::span<const Answer> answers, Grid& grid);
 
+// The same, but an answer that cannot be taken apart keeps none behind it back.
+void ShowEachAnswer(const Recordset& record, std::span<const Answer> answers, Grid& grid);
+
 // For an INSERT: "a,b" and "'x',1".
 std::string ColumnsOf(std::span<const Answer> answers);
 std::string ValuesOf(std::span<const Answer> answers, const Grid& grid);

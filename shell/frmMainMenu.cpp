@@ -1,7 +1,7 @@
 #include "shell/frmMainMenu.h"
 
 #include "base/text.h"
-#include "forms/survey_page.h"
+#include "forms/campus_print.h"
 #include "store/recordset.h"
 
 namespace survey {
@@ -270,20 +270,7 @@ void FrmMainMenu::PrintSurvey() {
   survey().CampusEmisNumber = LeadingNumber(txtCamEmis.Text);
   survey().CollegeEmisNumber = LeadingNumber(txtColEmis.Text);
   survey().SurveyYear = kPrintedYear;
-  std::vector<std::string> sheets;
-  for (const PageRow& row : host().pages()) {
-    if (row.in_campus_print) sheets.emplace_back(row.name);
-  }
-  const auto progress = host().platform().dialogs.BeginProgress(cmdPrintSurvey.Caption);
-  const int total = static_cast<int>(sheets.size());
-  for (int done = 0; done < total; ++done) {
-    const std::string what = "Page " + std::to_string(done + 1) + " of " + std::to_string(total);
-    if (!progress->Step(done, total, what)) return;
-    host().RunOffScreen(sheets[done], [](Form& form) {
-      form.Form_Activate();
-      dynamic_cast<SurveyPage&>(form).Printpage();
-    });
-  }
+  PrintCampusPages(host(), cmdPrintSurvey.Caption);
 }
 
 }  // namespace survey

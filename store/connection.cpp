@@ -307,12 +307,14 @@ void Connection::CountSave() {
   Run(database_.get(), ("PRAGMA user_version = " + std::to_string(count)).c_str());
 }
 
-void Connection::EndGroup() {
-  if (!InGroup()) return;
+bool Connection::EndGroup() {
+  if (!InGroup()) return false;
   work_ = 0;
   try {
-    if (sqlite3_total_changes(database_.get()) != changes_before_) CountSave();
+    const bool changed = sqlite3_total_changes(database_.get()) != changes_before_;
+    if (changed) CountSave();
     Run(database_.get(), "COMMIT");
+    return changed;
   } catch (const RunTimeError& failure) {
     if (InGroup()) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     throw CommitFailure(failure);

@@ -50,9 +50,10 @@ class Connection {
   // Runs a statement that returns no rows.
   void Execute(std::string_view statement);
 
-  // Commits what was written since the group began; nothing to do where nothing was written.
-  // When the commit fails the group is taken back as a whole and a CommitFailure thrown.
-  void EndGroup();
+  // Commits what was written since the group began, and answers whether that changed any record;
+  // nothing to do where nothing was written. When the commit fails the group is taken back as a
+  // whole and a CommitFailure thrown.
+  bool EndGroup();
 
   // Reads every page that is in use once; each bears its checksum. Throws RunTimeError when one is
   // damaged or the pages do not fit together.

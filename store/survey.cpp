@@ -34,8 +34,8 @@ std::string Survey::SurveyCaption(std::string_view) const {
 
 // The sign after the college number is no slip of ours: the total is that of the campus, whichever
 // college its rows name, and of the first group where there are several.
-std::int32_t Survey::ControlTotal(std::int16_t ProgrammeRegistrationTypeCD) {
-  OpenDatabaseConnection();
+std::int32_t ControlTotalOf(Connection* connection, double college_emis_number,
+                            double campus_emis_number, std::int16_t ProgrammeRegistrationTypeCD) {
   Recordset totals;
   totals.Open(
       "SELECT tbl_StudentRegistration.CollegeEmisNumber, tbl_StudentRegistration.CampusEmisNumber,"
@@ -43,15 +43,21 @@ std::int32_t Survey::ControlTotal(std::int16_t ProgrammeRegistrationTypeCD) {
       " tbl_StudentRegistration.ProgrammeRegistrationTypeCD,"
       " Sum(tbl_StudentRegistration.Quantity) AS Total"
       " From tbl_StudentRegistration Where collegeemisnumber & " +
-          NumberText(CollegeEmisNumber) +
-          " and campusemisnumber = " + NumberText(CampusEmisNumber) +
+          NumberText(college_emis_number) +
+          " and campusemisnumber = " + NumberText(campus_emis_number) +
           " GROUP BY tbl_StudentRegistration.CollegeEmisNumber,"
           " tbl_StudentRegistration.CampusEmisNumber, tbl_StudentRegistration.SurveyYear,"
           " tbl_StudentRegistration.ProgrammeRegistrationTypeCD"
           " HAVING tbl_StudentRegistration.ProgrammeRegistrationTypeCD = " +
           std::to_string(ProgrammeRegistrationTypeCD),
-      DatabaseConnection.get());
+      connection);
   return totals.Eof() ? 0 : ToWholeNumber(totals.Field("total").Number());
+}
+
+std::int32_t Survey::ControlTotal(std::int16_t ProgrammeRegistrationTypeCD) {
+  OpenDatabaseConnection();
+  return ControlTotalOf(DatabaseConnection.get(), CollegeEmisNumber, CampusEmisNumber,
+                        ProgrammeRegistrationTypeCD);
 }
 
 void Survey::Execute(std::string_view statement) {
@@ -60,7 +66,7 @@ void Survey::Execute(std::string_view statement) {
 }
 
 void Survey::EndStatements() {
-  if (DatabaseConnection) DatabaseConnection->EndGroup();
+  if (DatabaseConnection && DatabaseConnection->EndGroup()) ++changes_;
 }
 
 void Survey::set_statement_observer(StatementObserver observer) {

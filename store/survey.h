@@ -54,6 +54,10 @@ class Survey {
   // Commits what the handler that ends here has written. Throws what the commit throws.
   void EndStatements();
 
+  // How often records have been changed in this run: whoever shows what is stored can see whether
+  // to read it again.
+  std::uint64_t changes() const { return changes_; }
+
   // What a reporter throws leaves the call that failed.
   void set_error_reporter(ErrorReporter reporter) { report_error_ = std::move(reporter); }
   // Sees the statements of this and all later connections; for tests and measurements.
@@ -63,7 +67,13 @@ class Survey {
   ErrorReporter report_error_;
   StatementObserver observer_;
   CipherKeys keys_;
+  std::uint64_t changes_ = 0;
 };
+
+// The same on a connection of one's own, which is not opened anew. Throws ObjectNotSet() where it
+// is null.
+std::int32_t ControlTotalOf(Connection* connection, double college_emis_number,
+                            double campus_emis_number, std::int16_t ProgrammeRegistrationTypeCD);
 
 // The password of every survey database.
 std::string_view DatabasePassword();

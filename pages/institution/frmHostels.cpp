@@ -166,13 +166,43 @@ const std::vector<const char*> kUpdateBehindCode = {
 };
 // clang-format on
 
-// Behind a statement that ends with the comparison of the college number.
-std::string OfThisSite(const Survey& survey) {
-  return NumberText(survey.CollegeEmisNumber) +
-         " and CampusEMisNumber = " + NumberText(survey.CampusEmisNumber);
+constexpr char kSelectHostels[] = "Select * from tbl_Hostels  WHERE collegeemisnumber = ";
+
+Recordset ReadHostels(const SiteRecords& site) {
+  Recordset hostels;
+  hostels.Open(kSelectHostels + OfThisSite(site), site.connection);
+  return hostels;
+}
+
+void ShowStored(const Recordset& hostel, Grid& grid) { ShowEachAnswer(hostel, kAnswers, grid); }
+
+// Ticks only: a box that the user has ticked stays ticked.
+void ShowSetas(const SiteRecords& site, Grid& grid) {
+  Recordset stored;
+  stored.Open("Select * from tbl_Setaaccreditation  WHERE collegeemisnumber = " + OfThisSite(site),
+              site.connection);
+  for (; !stored.Eof(); stored.MoveNext()) {
+    for (const Seta& seta : kSetas) {
+      if (stored.Field("setaID").Is(seta.id)) {
+        grid.SetText(seta.cell.column + 1, seta.cell.row, "1");
+      }
+    }
+  }
 }
 
 }  // namespace
+
+const std::vector<KeptTable>& FrmHostels::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {.number = "1.15",
+       .grid = "gridGeneralInfo",
+       .design = &HostelDesign(),
+       .form = RecordForm{ReadHostels, ShowStored},
+       .required = {{kName}}},
+      {"1.16", "gridSETA", -1, &SetaDesign(), ShowSetas},
+  };
+  return tables;
+}
 
 FrmHostels::FrmHostels(FormHost& host, const PageRow& page)
     : SurveyPage(host, page),
@@ -210,20 +240,7 @@ void FrmHostels::GetPage() {
 
 // ---- SETAs -----------------------------------------------------------------------------------
 
-// Ticks only: a box that the user has ticked stays ticked.
-void FrmHostels::LoadSetaSelection() {
-  Recordset stored;
-  stored.Open(
-      "Select * from tbl_Setaaccreditation  WHERE collegeemisnumber = " + OfThisSite(survey()),
-      survey().DatabaseConnection.get());
-  for (; !stored.Eof(); stored.MoveNext()) {
-    for (const Seta& seta : kSetas) {
-      if (stored.Field("setaID").Is(seta.id)) {
-        gridSETA.SetText(seta.cell.column + 1, seta.cell.row, "1");
-      }
-    }
-  }
-}
+void FrmHostels::LoadSetaSelection() { ShowSetas(survey(), gridSETA); }
 
 void FrmHostels::SaveSetaSelection() {
   const std::string college = NumberText(survey().CollegeEmisNumber);
@@ -257,8 +274,7 @@ void FrmHostels::FillHostelList() {
 
 void FrmHostels::ShowHostel(const std::string& escaped_name) {
   Recordset hostel;
-  hostel.Open("Select * from tbl_Hostels  WHERE collegeemisnumber = " + OfThisSite(survey()) +
-                  " and hostelname = '" + escaped_name + "'",
+  hostel.Open(kSelectHostels + OfThisSite(survey()) + " and hostelname = '" + escaped_name + "'",
               survey().DatabaseConnection.get());
   if (hostel.Eof()) return;
   ShowAnswers(hostel, kAnswers, gridGeneralInfo);

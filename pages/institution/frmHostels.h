@@ -13,6 +13,8 @@ namespace survey {
 class FrmHostels : public SurveyPage {
  public:
   FrmHostels(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   void Form_Activate() override;
 

@@ -217,9 +217,43 @@ const std::vector<const char*> kUpdate = {
     ",Telephone = ", ",Facsimile = ", ", MISTelephone = ", ",MISFacsimile = ", ",MISEmail= ",
     ",MISYear = ",
 };
+
+// In the order of asking.
+const std::vector<RequiredCell> kCompulsory = {
+    {kStreetName, Need::kNotEmpty, "Please complete the physical address of the college to continue"},
+    {kTown, Need::kNotEmpty, "Please complete the physical address of the college to continue"},
+    {kManager, Need::kNotEmpty,
+     "Please complete the name of the principal or campus manager to continue"},
+    {kHasMis, Need::kNotZero, "Please complete question 1.14 to continue"},
+};
 // clang-format on
 
+Recordset ReadSite(const SiteRecords& site) {
+  Recordset stored;
+  stored.Open("Select * from tbl_GeneralInformation WHERE CollegeEmisNumber = " +
+                  NumberText(site.college_emis_number) +
+                  " and CampusEMISnumber = " + NumberText(site.campus_emis_number),
+              site.connection);
+  return stored;
+}
+
+void ShowQuestions(const SiteRecords& site, Grid& grid) {
+  const Recordset stored = ReadSite(site);
+  if (!stored.Eof()) ShowEachAnswer(stored, kAnswers, grid);
+}
+
 }  // namespace
+
+const std::vector<KeptTable>& FrmPage2::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {.number = "1.5 - 1.14",
+       .grid = "gridGeneralInfo",
+       .design = &QuestionsDesign(),
+       .load = ShowQuestions,
+       .required = kCompulsory},
+  };
+  return tables;
+}
 
 FrmPage2::FrmPage2(FormHost& host, const PageRow& page)
     : SurveyPage(host, page, {.previous = kToMainMenu, .menu = kNoButton}),
@@ -243,11 +277,7 @@ void FrmPage2::Form_Activate() {
 }
 
 void FrmPage2::GetPage() {
-  Recordset site;
-  site.Open("Select * from tbl_GeneralInformation WHERE CollegeEmisNumber = " +
-                NumberText(survey().CollegeEmisNumber) +
-                " and CampusEMISnumber = " + NumberText(survey().CampusEmisNumber),
-            survey().DatabaseConnection.get());
+  const Recordset site = ReadSite(survey());
   if (site.Eof()) return;
   ShowFields(site, kIdentity, gridPage2_1);
   ShowAnswers(site, kAnswers, gridGeneralInfo);
@@ -257,22 +287,11 @@ void FrmPage2::GetPage() {
 }
 
 bool FrmPage2::MaySave() {
-  const auto text = [this](Cell cell) { return gridGeneralInfo.GetText(cell.column, cell.row); };
-  const auto ask_for = [this](Cell cell, const char* request) {
-    boxes().UserMessage(request);
-    SetFocus(gridGeneralInfo, cell);
+  for (const RequiredCell& required : kCompulsory) {
+    if (!IsMissing(gridGeneralInfo, required)) continue;
+    boxes().UserMessage(required.request);
+    SetFocus(gridGeneralInfo, required.cell);
     return false;
-  };
-  for (const Cell cell : {kStreetName, kTown}) {
-    if (!text(cell).empty()) continue;
-    return ask_for(cell, "Please complete the physical address of the college to continue");
-  }
-  if (text(kManager).empty()) {
-    return ask_for(kManager,
-                   "Please complete the name of the principal or campus manager to continue");
-  }
-  if (LeadingNumber(text(kHasMis)) == 0) {
-    return ask_for(kHasMis, "Please complete question 1.14 to continue");
   }
   return true;
 }

@@ -11,6 +11,8 @@ namespace survey {
 class FrmPage2 : public SurveyPage {
  public:
   FrmPage2(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   // Unlike other pages goes on after a failed load: the site's numbers are always shown.
   void Form_Activate() override;

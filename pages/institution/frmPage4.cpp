@@ -148,6 +148,14 @@ const CellTable& LectureStaff() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmPage4::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"2.1", "gridPage4_2", -1, &StaffDesign(), CellsOf(StaffCount())},
+      {"2.2", "gridLectureStaff", -1, &DegreeDesign(), CellsOf(LectureStaff())},
+  };
+  return tables;
+}
+
 FrmPage4::FrmPage4(FormHost& host, const PageRow& page)
     : SurveyPage(host, page),
       gridPage4_2(*this, "gridPage4_2", StaffDesign()),

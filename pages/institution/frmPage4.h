@@ -9,6 +9,8 @@ namespace survey {
 class FrmPage4 : public SurveyPage {
  public:
   FrmPage4(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   Label Label4{*this, "Label4", "STAFF TABLES"};
   Label Label1{*this, "Label1",

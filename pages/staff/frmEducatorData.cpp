@@ -194,14 +194,16 @@ const std::vector<const char*> kUpdate = {
     ", Nationality = ",
 };
 
-struct RequiredCell {
-  Cell cell;
-  bool not_zero = false;  // a 0 counts as missing, too
-};
-
 constexpr RequiredCell kRequired[] = {
-    {kInitials},       {kSurname},      {kTitle},   {kCitizen},             {kSiteType},
-    {kStaffCategory},  {kDateOfBirth},  {kGender},  {kRemuneration, true},  {kDisability, true},
+    {kInitials, Need::kNotBlank},      {kSurname, Need::kNotBlank},
+    {kTitle, Need::kNotBlank},         {kCitizen, Need::kNotBlank},
+    {kSiteType, Need::kNotBlank},      {kStaffCategory, Need::kNotBlank},
+    {kDateOfBirth, Need::kNotBlank},   {kGender, Need::kNotBlank},
+    {kRemuneration, Need::kNotZero},   {kDisability, Need::kNotZero},
+};
+// What is asked for besides, one by one.
+constexpr RequiredCell kRequiredBesides[] = {
+    {kIdNumber}, {kDateOfBirth, Need::kWholeDate}, {kCitizen, Need::kNotZero},
 };
 // clang-format on
 
@@ -209,12 +211,46 @@ const std::string& TextOf(const Grid& grid, Cell cell) {
   return grid.GetText(cell.column, cell.row);
 }
 
-bool IsMissing(const Grid& grid, const RequiredCell& required) {
-  const std::string& text = TextOf(grid, required.cell);
-  return required.not_zero ? LeadingNumber(text) == 0 : Trim(text).empty();
+void ShowMember(const Recordset& member, Grid& grid) {
+  ShowAnswers(member, kAnswers, grid);
+  const bool citizen = member.Field("citizenstatusCD").Is(1);
+  ShowFields(member, {{"IDnumber", citizen ? kIdNumber : kPassportNumber}}, grid);
+}
+
+// Who comes from elsewhere and was not saved on this site since is not among them.
+Recordset ReadMembers(const SiteRecords& site) {
+  Recordset members;
+  members.Open("Select * from tbl_StaffDetail where collegeEmisNumber =" + OfThisSite(site) +
+                   " order by surname",
+               site.connection);
+  return members;
+}
+
+void ShowStored(const Recordset& member, Grid& grid) {
+  ShowFields(member, {{"IDNumber", kIdNumber}}, grid);
+  ShowMember(member, grid);
 }
 
 }  // namespace
+
+const std::vector<KeptTable>& FrmEducatorData::Kept() {
+  static const std::vector<KeptTable> tables = [] {
+    std::vector<RequiredCell> required(std::begin(kRequired), std::end(kRequired));
+    required.insert(required.end(), std::begin(kRequiredBesides), std::end(kRequiredBesides));
+    return std::vector<KeptTable>{
+        {.number = "4.1 - 4.23",
+         .grid = "gridgeneral",
+         .design = &GeneralDesign(),
+         .form = RecordForm{ReadMembers, ShowStored, "IDNumber"},
+         .required = required},
+        {.number = "4.24",
+         .grid = "gridTraining",
+         .design = &TrainingDesign(),
+         .staff = StaffRecords{"tbl_StaffTraining"}},
+    };
+  }();
+  return tables;
+}
 
 FrmEducatorData::FrmEducatorData(FormHost& host, const PageRow& page)
     : StaffPage(host, page,
@@ -281,9 +317,7 @@ void FrmEducatorData::GetEducatorInformation(const std::string& id) {
     member.Open("Select * from tbl_StaffDetail WHERE IDNumber = '" + SqlEscape(id) + "'",
                 survey().DatabaseConnection.get());
     if (member.Eof()) return;
-    ShowAnswers(member, kAnswers, gridgeneral);
-    const bool citizen = member.Field("citizenstatusCD").Is(1);
-    ShowFields(member, {{"IDnumber", citizen ? kIdNumber : kPassportNumber}}, gridgeneral);
+    ShowMember(member, gridgeneral);
   });
 }
 

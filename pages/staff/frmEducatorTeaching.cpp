@@ -92,6 +92,20 @@ const SubjectList& TeachingSubjects() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmEducatorTeaching::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {.number = "4.29",
+       .grid = "gridmonths",
+       .design = &MonthsDesign(),
+       .staff = StaffRecords{"tbl_LecturerContactMonth"}},
+      {.number = "4.30",
+       .grid = "gridSubjects",
+       .design = &TeachingSubjects().design,
+       .staff = StaffRecords{"tbl_LecturerTeachingSubject"}},
+  };
+  return tables;
+}
+
 FrmEducatorTeaching::FrmEducatorTeaching(FormHost& host, const PageRow& page)
     : SubjectPage(host, page, TeachingSubjects()), gridmonths(*this, "gridmonths", MonthsDesign()) {
   MarkChangesOf(gridmonths);

@@ -9,6 +9,8 @@ namespace survey {
 class FrmEducatorTeaching : public SubjectPage {
  public:
   FrmEducatorTeaching(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   GridControl gridmonths;
 

@@ -62,6 +62,16 @@ const SubjectList& QualificationSubjects() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmEducatorTeaching1::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {.number = "4.28",
+       .grid = "gridSubjects",
+       .design = &QualificationSubjects().design,
+       .staff = StaffRecords{"tbl_LecturerQualificationSubject"}},
+  };
+  return tables;
+}
+
 FrmEducatorTeaching1::FrmEducatorTeaching1(FormHost& host, const PageRow& page)
     : SubjectPage(host, page, QualificationSubjects()) {}
 

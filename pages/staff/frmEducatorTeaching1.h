@@ -10,6 +10,8 @@ namespace survey {
 class FrmEducatorTeaching1 : public SubjectPage {
  public:
   FrmEducatorTeaching1(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 };
 
 }  // namespace survey

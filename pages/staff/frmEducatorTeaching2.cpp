@@ -102,6 +102,16 @@ void ShowFigures(const Recordset& field, int row, Grid& grid) {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmEducatorTeaching2::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {.number = "4.31 - 4.32",
+       .grid = "gridFields",
+       .design = &FieldsDesign(),
+       .staff = StaffRecords{"tbl_LecturerTeachingFields", "", true}},
+  };
+  return tables;
+}
+
 FrmEducatorTeaching2::FrmEducatorTeaching2(FormHost& host, const PageRow& page)
     : StaffPage(host, page,
                 {.next = {"Previous", ButtonRole::kPrevious},

@@ -11,6 +11,8 @@ namespace survey {
 class FrmEducatorTeaching2 : public StaffPage {
  public:
   FrmEducatorTeaching2(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   GridControl gridFields;
 

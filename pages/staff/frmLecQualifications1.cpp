@@ -70,6 +70,16 @@ const QualificationList& FirstHalf() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmLecQualifications1::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {.number = "4.25",
+       .grid = "gridQual",
+       .design = &FirstHalf().design,
+       .staff = StaffRecords{"tbl_StaffQualificationType", " and QualificationTypeCD < 30", true}},
+  };
+  return tables;
+}
+
 FrmLecQualifications1::FrmLecQualifications1(FormHost& host, const PageRow& page)
     : QualificationPage(
           host, page,

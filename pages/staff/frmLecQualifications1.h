@@ -9,6 +9,8 @@ namespace survey {
 class FrmLecQualifications1 : public QualificationPage {
  public:
   FrmLecQualifications1(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
  protected:
   QualificationDetails DetailsToSave() const override { return {"", "0", 0}; }

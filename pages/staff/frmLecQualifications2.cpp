@@ -68,6 +68,16 @@ const QualificationList& SecondHalf() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmLecQualifications2::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {.number = "4.25 - 4.27",
+       .grid = "gridQual",
+       .design = &SecondHalf().design,
+       .staff = StaffRecords{"tbl_StaffQualificationType", " and QualificationTypeCD > 29", true}},
+  };
+  return tables;
+}
+
 FrmLecQualifications2::FrmLecQualifications2(FormHost& host, const PageRow& page)
     : QualificationPage(
           host, page,

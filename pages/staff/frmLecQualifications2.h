@@ -11,6 +11,8 @@ namespace survey {
 class FrmLecQualifications2 : public QualificationPage {
  public:
   FrmLecQualifications2(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   Button cmdEducatorList{*this, "cmdEducatorList", "Staff List", ButtonRole::kMenu};
 

@@ -177,7 +177,32 @@ const CellTable& Aet() {
 }
 // clang-format on
 
+// A record for each programme; that there are any answers the question, which is not stored.
+void ShowProgrammes(const SiteRecords& site, Grid& grid) {
+  Recordset programmes;
+  programmes.Open(
+      "Select * from tbl_Level5Programmes where collegeemisnumber = " + OfThisSiteAndYear(site),
+      site.connection);
+  for (int row = kFirstProgramme; !programmes.Eof(); programmes.MoveNext(), ++row) {
+    grid.SetText(2, row, programmes.Field("programmename").Text());
+    grid.SetText(3, row, programmes.Field("programmelevel").Text());
+    grid.SetText(4, row, programmes.Field("InstitutionHE").Text());
+    grid.SetText(5, row, programmes.Field("maleenrolment").Text());
+    grid.SetText(6, row, programmes.Field("femaleenrolment").Text());
+    grid.SetText(kPartnership.column, kPartnership.row, "1");
+  }
+}
+
 }  // namespace
+
+const std::vector<KeptTable>& FrmOtherProgrammes::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.11", "gridlevel5", -1, &Level5Design(), ShowProgrammes},
+      {"3.12", "gridNSC", -1, &NscDesign(), CellsOf(Nsc())},
+      {"3.13", "gridAET", -1, &AetDesign(), CellsOf(Aet())},
+  };
+  return tables;
+}
 
 FrmOtherProgrammes::FrmOtherProgrammes(FormHost& host, const PageRow& page)
     : SurveyPage(host, page, {.menu = kToMainMenu}),
@@ -220,18 +245,7 @@ void FrmOtherProgrammes::SavePage() {
 // ---- Table 3.11: a record for each programme; the question itself is not stored ------------
 
 void FrmOtherProgrammes::LoadLevel5() {
-  Recordset programmes;
-  programmes.Open(
-      "Select * from tbl_Level5Programmes where collegeemisnumber = " + OfThisSiteAndYear(survey()),
-      survey().DatabaseConnection.get());
-  for (int row = kFirstProgramme; !programmes.Eof(); programmes.MoveNext(), ++row) {
-    gridlevel5.SetText(2, row, programmes.Field("programmename").Text());
-    gridlevel5.SetText(3, row, programmes.Field("programmelevel").Text());
-    gridlevel5.SetText(4, row, programmes.Field("InstitutionHE").Text());
-    gridlevel5.SetText(5, row, programmes.Field("maleenrolment").Text());
-    gridlevel5.SetText(6, row, programmes.Field("femaleenrolment").Text());
-    gridlevel5.SetText(kPartnership.column, kPartnership.row, "1");
-  }
+  ShowProgrammes(survey(), gridlevel5);
   AnswerNoWhereUnanswered();
 }
 

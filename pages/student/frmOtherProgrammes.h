@@ -11,6 +11,8 @@ namespace survey {
 class FrmOtherProgrammes : public SurveyPage {
  public:
   FrmOtherProgrammes(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
   void Form_Activate() override;
 
   // All of these throw RunTimeError; what was done before a failure stays done.

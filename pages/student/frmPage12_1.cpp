@@ -111,7 +111,47 @@ constexpr OldLevel kOldLevels[] = {
 };
 // clang-format on
 
+Recordset ReadLines(const SiteRecords& site) {
+  Recordset lines;
+  lines.Open(
+      "SELECT tbl_StudentRegistrationOccupational.CollegeEmisNumber, "
+      "tbl_StudentRegistrationOccupational.CampusEmisNumber, "
+      "tbl_StudentRegistrationOccupational.SurveyYear, "
+      "lst_OccupationalQualification.NQFID,lst_OccupationalQualification.NQFField, "
+      "lst_OccupationalQualification.QualificationTitle, "
+      "lst_OccupationalQualification.NQFLevel, tbl_StudentRegistrationOccupational.Quantity "
+      "FROM tbl_StudentRegistrationOccupational INNER JOIN lst_OccupationalQualification ON "
+      "tbl_StudentRegistrationOccupational.NQFID = lst_OccupationalQualification.NQFID where "
+      "CampusEMISNumber = " +
+          NumberText(site.campus_emis_number) +
+          " and CollegeEMISNumber = " + NumberText(site.college_emis_number) +
+          " order by lst_OccupationalQualification.NQFID,"
+          "lst_OccupationalQualification.NQFField",
+      site.connection);
+  return lines;
+}
+
+void ShowLine(const Recordset& line, int row, Grid& grid) {
+  grid.SetText(3, row, line.Field("NQFID").Text());
+  grid.SetText(4, row, line.Field("QualificationTitle").Text());
+  grid.SetText(6, row, line.Field("NQFField").Text());
+  grid.SetText(7, row, line.Field("NQFLevel").Text());
+  grid.SetText(8, row, line.Field("Quantity").Text());
+}
+
+void ShowLines(const SiteRecords& site, Grid& grid) {
+  Recordset lines = ReadLines(site);
+  for (int row = kFirstLine; !lines.Eof(); lines.MoveNext(), ++row) ShowLine(lines, row, grid);
+}
+
 }  // namespace
+
+const std::vector<KeptTable>& FrmPage12_1::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.14", "gridPage12_2", -1, &EnrolmentDesign(), ShowLines},
+  };
+  return tables;
+}
 
 FrmPage12_1::FrmPage12_1(FormHost& host, const PageRow& page)
     : SurveyPage(host, page, {.menu = kToMainMenu}),
@@ -156,36 +196,12 @@ void FrmPage12_1::GetPage() {
   shown_.complete = TrapSilently([this] {
     gridPage12_2.ClearRange(3, kFirstLine, 11, kLastLine);
     survey().OpenDatabaseConnection();
-    Recordset lines = ReadLines();
+    Recordset lines = ReadLines(survey());
     for (int row = kFirstLine; !lines.Eof(); lines.MoveNext(), ++row) {
-      gridPage12_2.SetText(3, row, lines.Field("NQFID").Text());
-      gridPage12_2.SetText(4, row, lines.Field("QualificationTitle").Text());
-      gridPage12_2.SetText(6, row, lines.Field("NQFField").Text());
-      gridPage12_2.SetText(7, row, lines.Field("NQFLevel").Text());
-      gridPage12_2.SetText(8, row, lines.Field("Quantity").Text());
+      ShowLine(lines, row, gridPage12_2);
       shown_.keys.insert(lines.Field("NQFID").Text());
     }
   });
-}
-
-Recordset FrmPage12_1::ReadLines() {
-  Recordset lines;
-  lines.Open(
-      "SELECT tbl_StudentRegistrationOccupational.CollegeEmisNumber, "
-      "tbl_StudentRegistrationOccupational.CampusEmisNumber, "
-      "tbl_StudentRegistrationOccupational.SurveyYear, "
-      "lst_OccupationalQualification.NQFID,lst_OccupationalQualification.NQFField, "
-      "lst_OccupationalQualification.QualificationTitle, "
-      "lst_OccupationalQualification.NQFLevel, tbl_StudentRegistrationOccupational.Quantity "
-      "FROM tbl_StudentRegistrationOccupational INNER JOIN lst_OccupationalQualification ON "
-      "tbl_StudentRegistrationOccupational.NQFID = lst_OccupationalQualification.NQFID where "
-      "CampusEMISNumber = " +
-          NumberText(survey().CampusEmisNumber) +
-          " and CollegeEMISNumber = " + NumberText(survey().CollegeEmisNumber) +
-          " order by lst_OccupationalQualification.NQFID,"
-          "lst_OccupationalQualification.NQFField",
-      survey().DatabaseConnection.get());
-  return lines;
 }
 
 bool FrmPage12_1::MaySave() {
@@ -196,7 +212,7 @@ bool FrmPage12_1::MaySave() {
   }
   return MayReplace(shown_, [this] {
     std::vector<std::string> ids;
-    for (Recordset lines = ReadLines(); !lines.Eof(); lines.MoveNext()) {
+    for (Recordset lines = ReadLines(survey()); !lines.Eof(); lines.MoveNext()) {
       ids.push_back(lines.Field("NQFID").Text());
     }
     return ids;

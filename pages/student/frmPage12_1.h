@@ -6,7 +6,6 @@
 #include <string>
 
 #include "forms/survey_page.h"
-#include "store/recordset.h"
 
 namespace survey {
 
@@ -16,6 +15,8 @@ namespace survey {
 class FrmPage12_1 : public SurveyPage {
  public:
   FrmPage12_1(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
   // Reads the catalogue and the lines anew, also when frmAddQualification has closed; lines that
   // were not saved are lost then.
   void Form_Activate() override;
@@ -54,7 +55,6 @@ class FrmPage12_1 : public SurveyPage {
     std::string level;
   };
 
-  Recordset ReadLines();
   void TypeAhead(char32_t character);
   void TakeChoice();
   std::optional<Qualification> ReadChoice();

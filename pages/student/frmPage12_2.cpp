@@ -75,6 +75,13 @@ const CellTable& Occupational() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmPage12_2::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.15", "gridPage12_1", 0, &OccupationalDesign(), CellsOf(Occupational())},
+  };
+  return tables;
+}
+
 FrmPage12_2::FrmPage12_2(FormHost& host, const PageRow& page)
     : SurveyPage(host, page, {.menu = kToMainMenu}),
       gridPage12_1(*this, "gridPage12_1", OccupationalDesign(), 0) {

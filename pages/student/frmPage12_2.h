@@ -10,6 +10,8 @@ namespace survey {
 class FrmPage12_2 : public SurveyPage {
  public:
   FrmPage12_2(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
   // Without a trap: a page that cannot be filled ends the program. Throws RunTimeError.
   void Form_Activate() override;
 

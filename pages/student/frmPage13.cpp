@@ -72,7 +72,36 @@ const GridDesign& BoardersDesign() {
 }
 // clang-format on
 
+void ShowBoarders(const SiteRecords& site, Grid& grid) {
+  Recordset records;
+  records.Open(
+      "Select * from tbl_StudentBoarders where collegeemisnumber = " + OfThisSiteAndYear(site),
+      site.connection);
+  const auto show_counts = [&](int row) {
+    grid.SetText(kMale, row, records.Field("maleenrolment").Text());
+    grid.SetText(kFemale, row, records.Field("femaleenrolment").Text());
+  };
+  // More countries than the table has rows for run on into the totals and past them.
+  int country_row = kFirstCountry;
+  for (; !records.Eof(); records.MoveNext()) {
+    const Value& province = records.Field("provincecd");
+    if (!province.IsEmpty()) show_counts(ToWholeNumber(province.Number() + kProvinceOffset));
+    const Value& country = records.Field("country");
+    if (country.IsEmpty()) continue;
+    grid.SetText(1, country_row, country.Text());
+    show_counts(country_row);
+    ++country_row;
+  }
+}
+
 }  // namespace
+
+const std::vector<KeptTable>& FrmPage13::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.19", "gridPage13_1", -1, &BoardersDesign(), ShowBoarders},
+  };
+  return tables;
+}
 
 FrmPage13::FrmPage13(FormHost& host, const PageRow& page)
     : SurveyPage(host, page), gridPage13_1(*this, "gridPage13_1", BoardersDesign()) {
@@ -83,27 +112,7 @@ Layout FrmPage13::Body() { return Place(gridPage13_1); }
 
 void FrmPage13::PlaceCursor() { gridPage13_1.SetActiveCell(kMale, kFirstProvince); }
 
-void FrmPage13::GetPage() {
-  Recordset records;
-  records.Open(
-      "Select * from tbl_StudentBoarders where collegeemisnumber = " + OfThisSiteAndYear(survey()),
-      survey().DatabaseConnection.get());
-  const auto show_counts = [&](int row) {
-    gridPage13_1.SetText(kMale, row, records.Field("maleenrolment").Text());
-    gridPage13_1.SetText(kFemale, row, records.Field("femaleenrolment").Text());
-  };
-  // More countries than the table has rows for run on into the totals and past them.
-  int country_row = kFirstCountry;
-  for (; !records.Eof(); records.MoveNext()) {
-    const Value& province = records.Field("provincecd");
-    if (!province.IsEmpty()) show_counts(ToWholeNumber(province.Number() + kProvinceOffset));
-    const Value& country = records.Field("country");
-    if (country.IsEmpty()) continue;
-    gridPage13_1.SetText(1, country_row, country.Text());
-    show_counts(country_row);
-    ++country_row;
-  }
-}
+void FrmPage13::GetPage() { ShowBoarders(survey(), gridPage13_1); }
 
 void FrmPage13::SavePage() {
   survey().Execute("Delete * from tbl_StudentBoarders where collegeemisnumber = " +

@@ -13,6 +13,8 @@ namespace survey {
 class FrmPage13 : public SurveyPage {
  public:
   FrmPage13(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   GridControl gridPage13_1;
 

@@ -108,6 +108,13 @@ const CellTable& SpecialNeeds() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmPage14::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.18", "gridPage9_1", -1, &SpecialNeedsDesign(), CellsOf(SpecialNeeds())},
+  };
+  return tables;
+}
+
 FrmPage14::FrmPage14(FormHost& host, const PageRow& page)
     : SurveyPage(host, page), gridPage9_1(*this, "gridPage9_1", SpecialNeedsDesign()) {
   MarkChangesOf(gridPage9_1);

@@ -10,6 +10,8 @@ namespace survey {
 class FrmPage14 : public SurveyPage {
  public:
   FrmPage14(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   GridControl gridPage9_1;
 

@@ -101,6 +101,13 @@ const CellTable& Registration() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmPage3::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"2.5", "gridEnrolment", -1, &EnrolmentDesign(), CellsOf(Registration())},
+  };
+  return tables;
+}
+
 FrmPage3::FrmPage3(FormHost& host, const PageRow& page)
     : SurveyPage(host, page), gridEnrolment(*this, "gridEnrolment", EnrolmentDesign()) {
   MarkChangesOf(gridEnrolment);

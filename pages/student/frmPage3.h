@@ -10,6 +10,8 @@ namespace survey {
 class FrmPage3 : public SurveyPage {
  public:
   FrmPage3(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   GridControl gridEnrolment;
 

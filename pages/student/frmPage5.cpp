@@ -231,7 +231,52 @@ const FteTable* FteTableOf(const Value& type) {
   return table == tables.end() ? nullptr : &*table;
 }
 
+// Each record goes into the grid that `grid_of` gives for its table; null: nowhere.
+void ShowFte(const SiteRecords& site, const std::function<Grid*(const FteTable&)>& grid_of) {
+  Recordset records;
+  records.Open(FteTables().front().cells.select + OfThisSiteAndYear(site), site.connection);
+  for (; !records.Eof(); records.MoveNext()) {
+    const FteTable* table = FteTableOf(records.Field("programmeregistrationtypeCD"));
+    Grid* grid = table == nullptr ? nullptr : grid_of(*table);
+    if (grid == nullptr) continue;
+    Cell cell;
+    table->cells.rows.Place(records, cell.row);
+    table->cells.columns.Place(records, cell.column);
+    grid->SetText(cell.column, cell.row, records.Field("quantity").Text());
+  }
+}
+
+// The records of one of the three grids.
+std::function<void(const SiteRecords&, Grid&)> FteOf(int index) {
+  return [index](const SiteRecords& site, Grid& grid) {
+    ShowFte(site, [&](const FteTable& table) { return table.grid == index ? &grid : nullptr; });
+  };
+}
+
+void ShowReport191(const SiteRecords& site, Grid& grid) {
+  const CellTable& table = Report191();
+  Recordset records;
+  records.Open(table.select + OfThisSiteAndYear(site) + table.select_tail, site.connection);
+  Cell cell;
+  for (; !records.Eof(); records.MoveNext()) {
+    table.columns.Place(records, cell.column);
+    cell.row = 0;  // a record of no level is passed over, not put where the one before went
+    table.rows.Place(records, cell.row);
+    grid.SetText(cell.column, cell.row, records.Field("quantity").Text());
+  }
+}
+
 }  // namespace
+
+const std::vector<KeptTable>& FrmPage5::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.1", "gridFTE", 1, &NcvFteDesign(), FteOf(1)},
+      {"3.2", "gridFTE", 2, &N1ToN3FteDesign(), FteOf(2)},
+      {"3.3", "gridFTE", 0, &N4ToN6FteDesign(), FteOf(0)},
+      {"3.4", "gridReport191", 2, &Report191Design(), ShowReport191},
+  };
+  return tables;
+}
 
 FrmPage5::FrmPage5(FormHost& host, const PageRow& page)
     : SurveyPage(host, page),
@@ -265,17 +310,7 @@ void FrmPage5::SavePage() {
 }
 
 void FrmPage5::GetFTE() {
-  Recordset records;
-  records.Open(FteTables().front().cells.select + OfThisSiteAndYear(survey()),
-               survey().DatabaseConnection.get());
-  for (; !records.Eof(); records.MoveNext()) {
-    const FteTable* table = FteTableOf(records.Field("programmeregistrationtypeCD"));
-    if (table == nullptr) continue;
-    Cell cell;
-    table->cells.rows.Place(records, cell.row);
-    table->cells.columns.Place(records, cell.column);
-    gridFTE[table->grid].SetText(cell.column, cell.row, records.Field("quantity").Text());
-  }
+  ShowFte(survey(), [this](const FteTable& table) { return &gridFTE[table.grid]; });
 }
 
 void FrmPage5::SaveFTE() {
@@ -285,19 +320,7 @@ void FrmPage5::SaveFTE() {
   }
 }
 
-void FrmPage5::GetReport191() {
-  const CellTable& table = Report191();
-  Recordset records;
-  records.Open(table.select + OfThisSiteAndYear(survey()) + table.select_tail,
-               survey().DatabaseConnection.get());
-  Cell cell;
-  for (; !records.Eof(); records.MoveNext()) {
-    table.columns.Place(records, cell.column);
-    cell.row = 0;  // a record of no level is passed over, not put where the one before went
-    table.rows.Place(records, cell.row);
-    gridReport191.SetText(cell.column, cell.row, records.Field("quantity").Text());
-  }
-}
+void FrmPage5::GetReport191() { ShowReport191(survey(), gridReport191); }
 
 void FrmPage5::SaveReport191() { SaveCells(survey(), Report191(), gridReport191); }
 

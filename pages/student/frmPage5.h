@@ -13,6 +13,8 @@ namespace survey {
 class FrmPage5 : public SurveyPage {
  public:
   FrmPage5(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   Label Label1;
   std::array<GridControl, 3> gridFTE;  // tables 3.3, 3.1, 3.2

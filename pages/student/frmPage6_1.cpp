@@ -90,6 +90,15 @@ const CellTable& Headcount() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmPage6_1::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.5", "gridPage6_2", 1, &N4Design(), CellsOf(Headcount(), 4)},
+      {"3.6", "gridPage6_2", 0, &N5Design(), CellsOf(Headcount(), 5)},
+      {"3.7", "grid191", 0, &N6Design(), CellsOf(Headcount(), 6)},
+  };
+  return tables;
+}
+
 FrmPage6_1::FrmPage6_1(FormHost& host, const PageRow& page)
     : SurveyPage(host, page),
       gridPage6_2{{{*this, "gridPage6_2", N5Design(), 0}, {*this, "gridPage6_2", N4Design(), 1}}},

@@ -13,6 +13,8 @@ namespace survey {
 class FrmPage6_1 : public SurveyPage {
  public:
   FrmPage6_1(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   std::array<GridControl, 2> gridPage6_2;  // N5, N4
   GridControl grid191;                     // N6; its changes do not set the unsaved mark

@@ -9,6 +9,11 @@ namespace survey {
 class FrmPage8 : public NcvPage {
  public:
   FrmPage8(FormHost& host, const PageRow& page) : NcvPage(host, page) {}
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept() {
+    static const std::vector<KeptTable> tables = KeptOf("frmPage8");
+    return tables;
+  }
 };
 
 }  // namespace survey

@@ -9,6 +9,11 @@ namespace survey {
 class FrmPage9 : public NcvPage {
  public:
   FrmPage9(FormHost& host, const PageRow& page) : NcvPage(host, page) {}
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept() {
+    static const std::vector<KeptTable> tables = KeptOf("frmPage9");
+    return tables;
+  }
 };
 
 }  // namespace survey

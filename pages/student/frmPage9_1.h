@@ -9,6 +9,11 @@ namespace survey {
 class FrmPage9_1 : public NcvPage {
  public:
   FrmPage9_1(FormHost& host, const PageRow& page) : NcvPage(host, page) {}
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept() {
+    static const std::vector<KeptTable> tables = KeptOf("frmPage9_1");
+    return tables;
+  }
 };
 
 }  // namespace survey

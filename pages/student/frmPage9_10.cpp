@@ -98,6 +98,13 @@ const CellTable& AgeRecords() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmPage9_10::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.16", "gridPage9_1", -1, &AgeDesign(), CellsOf(AgeRecords())},
+  };
+  return tables;
+}
+
 FrmPage9_10::FrmPage9_10(FormHost& host, const PageRow& page)
     : YearOfBirthPage(host, page, {AgeDesign(), AgeRecords(), {2, 3, 20, 28}}) {}
 

@@ -9,6 +9,8 @@ namespace survey {
 class FrmPage9_10 : public YearOfBirthPage {
  public:
   FrmPage9_10(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 };
 
 }  // namespace survey

@@ -98,6 +98,13 @@ const CellTable& AgeRecords() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmPage9_10_1::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"3.17", "gridPage9_1", -1, &AgeDesign(), CellsOf(AgeRecords())},
+  };
+  return tables;
+}
+
 // The highlight leaves out the last programme, "Other", as it always has.
 FrmPage9_10_1::FrmPage9_10_1(FormHost& host, const PageRow& page)
     : YearOfBirthPage(host, page, {AgeDesign(), AgeRecords(), {2, 4, 11, 29}}) {}

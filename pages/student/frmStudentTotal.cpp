@@ -148,6 +148,14 @@ const CellTable& Agreements() {
 
 }  // namespace
 
+const std::vector<KeptTable>& FrmStudentTotal::Kept() {
+  static const std::vector<KeptTable> tables = {
+      {"2.3", "gridEnrolment", -1, &EnrolmentDesign(), CellsOf(Enrolment())},
+      {"2.4", "gridAgreements", -1, &AgreementsDesign(), CellsOf(Agreements())},
+  };
+  return tables;
+}
+
 FrmStudentTotal::FrmStudentTotal(FormHost& host, const PageRow& page)
     : SurveyPage(host, page),
       Label4(*this, "Label4", "STUDENT TOTALS"),

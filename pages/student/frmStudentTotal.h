@@ -11,6 +11,8 @@ namespace survey {
 class FrmStudentTotal : public SurveyPage {
  public:
   FrmStudentTotal(FormHost& host, const PageRow& page);
+  // What the page keeps of the survey.
+  static const std::vector<KeptTable>& Kept();
 
   Label Label4;
   Label Label3;

@@ -78,7 +78,7 @@ constexpr Programme kProgrammes[] = {
     {"14", "Primary Health"},
 };
 
-GridDesign DesignOf(const NcvLevel& level) {
+GridDesign MakeDesign(const NcvLevel& level) {
   GridDesign design = {
       .columns = 14,
       .rows = 23,
@@ -147,13 +147,27 @@ const NcvLevel& LevelOf(std::string_view page) {
   return *level;
 }
 
+const GridDesign& DesignOf(const NcvLevel& level) {
+  static const std::vector<GridDesign> designs = [] {
+    std::vector<GridDesign> made;
+    for (const NcvLevel& each : Levels()) made.push_back(MakeDesign(each));
+    return made;
+  }();
+  return designs[static_cast<std::size_t>(&level - Levels().data())];
+}
+
 }  // namespace
+
+std::vector<KeptTable> NcvPage::KeptOf(std::string_view page) {
+  const NcvLevel& level = LevelOf(page);
+  return {{level.table, level.grid, kGridIndex, &DesignOf(level),
+           CellsOf(PopulationGroups(), level.code)}};
+}
 
 NcvPage::NcvPage(FormHost& host, const PageRow& page)
     : SurveyPage(host, page),
       level_(LevelOf(page.name)),
-      design_(DesignOf(level_)),
-      grid_(*this, level_.grid, design_, kGridIndex) {
+      grid_(*this, level_.grid, DesignOf(level_), kGridIndex) {
   MarkChangesOf(grid_);
 }
 

@@ -2,6 +2,7 @@
 #define PAGES_STUDENT_NCV_PAGE_H_
 
 #include <string_view>
+#include <vector>
 
 #include "forms/control_totals.h"
 #include "forms/survey_page.h"
@@ -14,7 +15,8 @@ struct NcvLevel;
 // control table. The three levels are one page three times over.
 class NcvPage : public SurveyPage {
  protected:
-  // Throws std::out_of_range for the row of a page of no level.
+  // Both throw std::out_of_range for a page of no level.
+  static std::vector<KeptTable> KeptOf(std::string_view page);
   NcvPage(FormHost& host, const PageRow& page);
 
   Layout Body() override;
@@ -24,7 +26,6 @@ class NcvPage : public SurveyPage {
 
  private:
   const NcvLevel& level_;
-  const GridDesign design_;
   GridControl grid_;  // gridNCV or gridPage8_2, index 1
   ControlTotals control_totals_{*this, "Label3"};
 };

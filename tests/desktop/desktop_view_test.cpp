@@ -2,6 +2,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressDialog>
 
 #include "desktop/qt_dialogs.h"
 #include "desktop_fixture.h"
@@ -33,26 +34,6 @@ TEST_F(DesktopTest, ANewDatabaseIsNamedInADialogOfItsOwn) {
   EXPECT_TRUE(std::filesystem::exists(folder_.path() / "Data2012" / "Free.mdb"));
 }
 
-TEST_F(DesktopTest, AnUnsavedPageAsksBeforeItIsLeft) {
-  OpenSiteAt("frmPage3");
-  EXPECT_NE(ColorOf("cmdSave"), QColor(Qt::yellow));
-  user_->Type("25");
-  user_->Press(Qt::Key_Return);
-  EXPECT_EQ(ColorOf("cmdSave"), QColor(Qt::yellow));
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-    user_->OnDialog([&](QWidget& dialog) {
-      const auto& box = dynamic_cast<QMessageBox&>(dialog);
-      EXPECT_EQ(box.windowTitle(), "Data has NOT been Saved");
-      EXPECT_EQ(box.text(), kUnsaved);
-      EXPECT_FALSE(box.iconPixmap().isNull());
-      user_->Press(key);  // both are No
-    });
-    user_->Click("cmdMenu");
-    EXPECT_EQ(Front(), "frmPage3");
-    EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "25");
-  }
-}
-
 TEST_F(DesktopTest, BoxesShowTextsAsTheyAre) {
   const QString text = "Smith & Jones <b>x</b>  AB && <";
   QtDialogs dialogs([] { return nullptr; });
@@ -73,11 +54,21 @@ TEST_F(DesktopTest, BoxesShowTextsAsTheyAre) {
   dialogs.ShowMessage(box);
   user_->OnDialog(expect_whole);
   dialogs.InputBox(text.toStdString(), "");
-  const auto progress = dialogs.BeginProgress("");
-  progress->Step(0, 2, text.toStdString());
+  const auto progress = dialogs.BeginProgress("Print");
+  QProgressDialog* dialog = nullptr;
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->objectName() == "Progress") expect_whole(*window);
+    if (auto* found = qobject_cast<QProgressDialog*>(window)) dialog = found;
   }
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(progress->Step(0, 20, "Page 1"));
+  EXPECT_FALSE(dialog->isVisible()) << "for a job that may soon be done";
+  dialog->setMinimumDuration(0);
+  EXPECT_TRUE(progress->Step(1, 20, text.toStdString()));
+  EXPECT_TRUE(dialog->isVisible());
+  EXPECT_EQ(dialog->value(), 1);
+  dialog->findChild<QPushButton*>()->click();
+  EXPECT_FALSE(progress->Step(2, 20, text.toStdString())) << "the user has stopped it";
+  expect_whole(*dialog);
 }
 
 TEST_F(DesktopTest, SavingAndLeavingTakeWhatIsStillBeingTyped) {
@@ -92,6 +83,12 @@ TEST_F(DesktopTest, SavingAndLeavingTakeWhatIsStillBeingTyped) {
   user_->Press(Qt::Key_PageDown, Qt::ControlModifier);
   EXPECT_EQ(Front(), "frmPage5");
   user_->Type("7");
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    user_->OnDialog([this, key](QWidget&) { user_->Press(key); });  // both are No
+    user_->Press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(Front(), "frmPage5");
+    EXPECT_EQ(ColorOf("cmdSave"), QColor(Qt::yellow));
+  }
   ExpectBox("Data has NOT been Saved", kUnsaved, true, "Yes");
   user_->Press(Qt::Key_PageUp, Qt::ControlModifier);
   EXPECT_EQ(user_->CellText("gridEnrolment", 7, 3), "31");

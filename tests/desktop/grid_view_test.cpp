@@ -1,20 +1,10 @@
-#include "desktop/grid_view.h"
-
-#include <gmock/gmock.h>
+// Looks and ways of a table on screen, blocks, boxes and lists.
 
 #include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QTest>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include "support/headless_program.h"
+#include "grid/test_designs.h"
+#include "tables_fixture.h"
 
 namespace survey::testing {
 namespace {
@@ -23,204 +13,43 @@ using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-// Pairs of rows as in the survey's own tables: a title over all, labels of the pair, a total.
-const GridDesign kTableDesign = {
-    .columns = 7,
-    .rows = 20,
-    .column_widths = {600, 1500, 900, 900, 900, 1500, 900},
-    .row_heights = {400},
-    .head_rows = 2,
-    .label_columns = 2,
-    .texts = {{2, 1, "Students per block"},
-              {3, 2, "First\nblock"},
-              {4, 2, "Second"},
-              {5, 2, "Third"},
-              {6, 2, "Remark"},
-              {7, 2, "Total"},
-              {1, 3, "7.1"},
-              {2, 4, "Female"}},
-    .rules = {{{3, 3, 5, 20}, Number(0, 999)},
-              {{4, 4}, Number(0, 999), false},
-              {{6, 3, 6, 10}, Capitals(5)},
-              {{6, 11, 6, 20}, CheckBoxCell()},
-              {{7, 3, 7, 20}, Number(0, 9999), false}},
-    .totals = {{{7, 3, 7, 20}, {{3, 3, 5, 3}}}},
-    .spans = {{2, 1, 7, 1}, {1, 3, 1, 4}, {6, 5, 6, 6}},
-    .title = "Table 7",
-};
-
-const GridDesign kListDesign = {.columns = 2,
-                                .rows = 30,
-                                .column_widths = {2000, 2000},
-                                .heads = {"Name", "Number"},
-                                .title = "Names"};
-
-class TablesForm : public Form {
- public:
-  explicit TablesForm(FormHost& host) : Form(host, "frmTables", "Tables") {
-    const auto tell = [this](const char* what) {
-      return [this, what](int column, int row) {
-        heard.push_back(what + (" " + std::to_string(column)) + "," + std::to_string(row));
-      };
-    };
-    for (GridControl* grid : {&table, &list}) {
-      grid->on_change = tell("change");
-      grid->on_check = tell("check");
-      grid->on_click = tell("click");
-    }
-  }
-  Layout Arrange() override { return Space(); }
-
-  GridControl table{*this, "table", kTableDesign};
-  GridControl list{*this, "list", kListDesign};
-  std::vector<std::string> heard;
-};
-
-// A window with the two tables and a button, and the user's hands.
-class GridViewTest : public ::testing::Test, public FormsView {
- protected:
-  GridViewTest() {
-    world_.host.set_view(this);
-    world_.host.Register("frmTables",
-                         [](FormHost& host) { return std::make_unique<TablesForm>(host); });
-    world_.host.Start("frmTables");
-    auto* layout = new QVBoxLayout(&window_);
-    view_ = new GridView(form().table);
-    list_ = new GridView(form().list);
-    button_ = new QPushButton("Save");
-    layout->addWidget(view_);
-    layout->addWidget(list_);
-    layout->addWidget(button_);
-    window_.resize(420, 500);
-    window_.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
-    view_->setFocus();
-    Go(3, 3);
-  }
-
-  void Refresh() override {
-    if (view_ == nullptr) return;
-    view_->Refresh();
-    list_->Refresh();
-  }
-  void RunModal(Form&) override {}
-
-  TablesForm& form() { return static_cast<TablesForm&>(world_.host.Get("frmTables")); }
-  GridControl& table() { return form().table; }
-  const std::string& At(int column, int row) { return table().GetText(column, row); }
-  // As code does it.
-  void Go(int column, int row) {
-    table().SetActiveCell(column, row);
-    view_->Refresh();
-  }
-  // Each key goes to whatever has the focus by then.
-  void Keys(const char* text) {
-    for (const char* key = text; *key != '\0'; ++key) {
-      QTest::keyClick(QApplication::focusWidget(), *key);
-    }
-  }
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-  }
-  QRect Place(GridView& view, int column, int row) {
-    return view.visualRect(view.model()->index(row - 1, column - 1));
-  }
-  void ClickAt(GridView& view, int column, int row) {
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, Place(view, column, row).center());
-  }
-  void Paste(const char* text) {
-    QApplication::clipboard()->setText(text);
-    Key(Qt::Key_V, Qt::ControlModifier);
-  }
-  // A closed one may wait a little for its end.
-  template <typename Widget>
-  Widget* Shown(const char* name) {
-    for (Widget* widget : window_.findChildren<Widget*>(name)) {
-      if (widget->isVisible()) return widget;
-    }
-    return nullptr;
-  }
-  QLineEdit* Editor() { return Shown<QLineEdit>("cellEditor"); }
-  // What the user is told at the cell.
-  std::string Note() {
-    const auto* note = Shown<QLabel>("entryNote");
-    return note != nullptr ? note->text().toStdString() : "";
-  }
-  std::vector<std::string> Row(int row) {
-    std::vector<std::string> texts;
-    for (int column = 3; column <= 7; ++column) texts.push_back(table().GetText(column, row));
-    return texts;
-  }
-  Cell Active() { return {table().ActiveColumn(), table().ActiveRow()}; }
-  Cell Current() { return {view_->currentIndex().column() + 1, view_->currentIndex().row() + 1}; }
-
-  HeadlessProgram world_;
-  QWidget window_;
-  GridView* view_ = nullptr;
-  GridView* list_ = nullptr;
-  QPushButton* button_ = nullptr;
-};
-
-TEST_F(GridViewTest, EnterTakesAnEntryAndWalksTheOpenCells) {
-  Keys("12");
-  EXPECT_EQ(At(3, 3), "");  // not before it is taken
-  Key(Qt::Key_Return);
-  Keys("30");
-  Key(Qt::Key_Enter);  // of the keypad
-  Keys("4");
-  Key(Qt::Key_Down);  // an arrow takes it too
-  EXPECT_THAT(Row(3), ElementsAre("12", "30", "4", "", "46"));
-  EXPECT_EQ(Active(), (Cell{5, 4}));
-  Key(Qt::Key_Return, Qt::ShiftModifier);
-  EXPECT_EQ(Active(), (Cell{3, 4})) << "(4,4) is locked";
-  EXPECT_EQ(Current(), Active());
-  EXPECT_THAT(form().heard, ElementsAre("change 3,3", "change 4,3", "change 5,3"));
-}
+using GridViewTest = TablesTest;
 
 TEST_F(GridViewTest, KeysOfAnEditor) {
-  table().SetText(3, 3, "12");
-  Key(Qt::Key_F2);
-  Keys("3");  // behind what stands there
+  pairs().SetText(3, 3, "12");
+  user_->Press(Qt::Key_F2);
+  user_->Type("3");  // behind what stands there
   EXPECT_EQ(Editor()->text(), "123");
-  Key(Qt::Key_Left);  // stays in the text
-  Key(Qt::Key_Escape);
+  user_->Press(Qt::Key_Left);  // stays in the text
+  user_->Press(Qt::Key_Escape);
   EXPECT_EQ(Editor(), nullptr);
   EXPECT_EQ(At(3, 3), "12");
-  Keys("5");
-  Key(Qt::Key_Right);  // typed over: an arrow goes on
+  user_->Type("5");
+  EXPECT_EQ(At(3, 3), "12") << "not before it is taken";
+  user_->Press(Qt::Key_Right);  // typed over: an arrow goes on
   EXPECT_EQ(At(3, 3), "5");
   EXPECT_EQ(Active(), (Cell{4, 3}));
-  Go(6, 3);
-  Keys("ab");
+  GoTo(6, 3);
+  user_->Type("ab");
   EXPECT_EQ(Editor()->text(), "AB");
-  Key(Qt::Key_Tab);
+  user_->Press(Qt::Key_Tab);
   EXPECT_EQ(At(6, 3), "AB");
-  EXPECT_EQ(QApplication::focusWidget(), list_);
-  Key(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(QApplication::focusWidget(), view_);
-  Key(Qt::Key_Delete);
+  EXPECT_EQ(&user_->Focus(), &Table("list"));
+  user_->Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(&user_->Focus(), &Table("pairs"));
+  user_->Press(Qt::Key_Delete);
   EXPECT_EQ(At(6, 3), "");
-  form().heard.clear();
-  Go(4, 4);
-  Keys("1");
+  const auto heard = Listen(pairs());
+  GoTo(4, 4);
+  user_->Type("1");
   EXPECT_EQ(Note(), "This cell is locked.");
-  Key(Qt::Key_Delete);
-  EXPECT_THAT(form().heard, IsEmpty());
-}
-
-TEST_F(GridViewTest, CommitsWhenTheUserWorksElsewhere) {
-  Keys("5");
-  ClickAt(*view_, 3, 5);
-  EXPECT_EQ(At(3, 3), "5");
-  Keys("6");
-  list_->setFocus(Qt::MouseFocusReason);
-  EXPECT_EQ(At(3, 5), "6");
+  user_->Press(Qt::Key_Delete);
+  EXPECT_THAT(*heard, IsEmpty());
 }
 
 TEST_F(GridViewTest, PastesABlockThroughTheLimits) {
-  table().SetText(4, 4, "8");
-  table().SetText(3, 5, "55");
+  pairs().SetText(4, 4, "8");
+  pairs().SetText(3, 5, "55");
   // Female is locked at (4,4); the last line end is no row; an empty value empties.
   Paste("1\t 2 \t3\r\n4\t9\t1000\r\n\t\"6\"\t7,5\r\n");
   EXPECT_THAT(Row(3), ElementsAre("1", "2", "3", "", "6"));
@@ -233,12 +62,12 @@ TEST_F(GridViewTest, PastesABlockThroughTheLimits) {
 }
 
 TEST_F(GridViewTest, PastesWhatFitsAndSaysWhatDoesNot) {
-  table().SetRowHidden(19, true);
-  Go(6, 18);
+  pairs().SetRowHidden(19, true);
+  GoTo(6, 18);
   Paste("1\t\n1\t5\tz\n0\n");  // row 19 is passed over, the total and column 8 take nothing
   EXPECT_EQ(At(6, 18) + "/" + At(6, 19) + "/" + At(6, 20), "1//1");
   EXPECT_THAT(Note(), AllOf(HasSubstr("2 values did not fit into the table."), HasSubstr("total")));
-  Go(6, 3);
+  GoTo(6, 3);
   Paste("\"two\nlines\"");
   EXPECT_THAT(Note(), HasSubstr("one line"));
   Paste("\"\"\"a\"\"\"");
@@ -250,11 +79,11 @@ TEST_F(GridViewTest, PastesWhatFitsAndSaysWhatDoesNot) {
 }
 
 TEST_F(GridViewTest, CopiesCutsAndFillsASelection) {
-  table().SetText(3, 3, "1");
-  table().SetText(4, 4, "8");
-  Key(Qt::Key_Down, Qt::ShiftModifier);
-  Key(Qt::Key_Right, Qt::ShiftModifier);
-  Key(Qt::Key_X, Qt::ControlModifier);
+  pairs().SetText(3, 3, "1");
+  pairs().SetText(4, 4, "8");
+  user_->Press(Qt::Key_Down, Qt::ShiftModifier);
+  user_->Press(Qt::Key_Right, Qt::ShiftModifier);
+  user_->Press(Qt::Key_X, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), "1\t\n\t8");
   EXPECT_EQ(At(3, 3) + "/" + At(4, 4), "/8");
   Paste("5\n");
@@ -263,27 +92,30 @@ TEST_F(GridViewTest, CopiesCutsAndFillsASelection) {
 }
 
 TEST_F(GridViewTest, TicksBoxes) {
-  Go(6, 12);
-  Key(Qt::Key_Space);
-  view_->scrollTo(view_->model()->index(12, 5));
-  ClickAt(*view_, 6, 13);
-  ClickAt(*view_, 6, 13);
-  EXPECT_EQ(At(6, 12) + "/" + At(6, 13), "1/0");
-  QTest::mouseClick(view_->viewport(), Qt::LeftButton, {},
-                    Place(*view_, 6, 13).topLeft() + QPoint(3, 3));  // beside the box
-  EXPECT_THAT(form().heard, ElementsAre("check 6,12", "click 6,13", "check 6,13", "click 6,13",
-                                        "check 6,13", "click 6,13"));
+  GridView& view = Table("pairs");
+  const auto heard = Listen(pairs());
+  user_->ClickCell("pairs", 6, 13);
+  EXPECT_EQ(At(6, 13), "1");
+  user_->ClickCell("pairs", 6, 13);
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                    Place(view, 6, 13).topLeft() + QPoint(3, 3));  // beside the box
+  EXPECT_EQ(At(6, 13), "0");
+  EXPECT_THAT(*heard, ElementsAre("cell 6,13", "click 6,13", "check 6,13", "click 6,13",
+                                  "check 6,13", "click 6,13"));
 }
 
 TEST_F(GridViewTest, HeadsAndLabelsStayInView) {
-  QHeaderView& heads = *view_->horizontalHeader();
-  QHeaderView& labels = *view_->verticalHeader();
+  GridView& view = Table("pairs");
+  view.setFixedWidth(300);
+  QCoreApplication::processEvents();
+  QHeaderView& heads = *view.horizontalHeader();
+  QHeaderView& labels = *view.verticalHeader();
   const QImage heads_before = heads.grab().toImage();
   const QImage labels_before = labels.grab().toImage();
-  Go(7, 20);
-  EXPECT_GT(view_->verticalScrollBar()->value(), 0);
+  GoTo(7, 20);
+  EXPECT_GT(view.verticalScrollBar()->value(), 0);
   const QImage heads_after = heads.grab().toImage();
-  const int title = 400 * view_->logicalDpiY() / 1440;
+  const int title = 400 * view.logicalDpiY() / 1440;
   const QRect title_row(0, 0, heads_after.width(), title - 1);
   EXPECT_EQ(heads_before.copy(title_row), heads_after.copy(title_row)) << "the title stays";
   const QRect head_row(0, title, heads_after.width(), heads_after.height() - title);
@@ -293,64 +125,71 @@ TEST_F(GridViewTest, HeadsAndLabelsStayInView) {
   QWheelEvent wheel({5, 5}, labels.mapToGlobal(QPointF(5, 5)), {}, {0, 1200}, {}, {},
                     Qt::NoScrollPhase, false);
   QApplication::sendEvent(labels.viewport(), &wheel);
-  EXPECT_LT(view_->verticalScrollBar()->value(), view_->verticalScrollBar()->maximum());
+  EXPECT_LT(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
   EXPECT_EQ(Active(), (Cell{7, 20})) << "the wheel only scrolls";
-  Key(Qt::Key_Home, Qt::ControlModifier);
-  Key(Qt::Key_Up);
-  Key(Qt::Key_Left);
+  user_->Press(Qt::Key_Home, Qt::ControlModifier);
+  user_->Press(Qt::Key_Up);
+  user_->Press(Qt::Key_Left);
   EXPECT_EQ(Active(), (Cell{3, 3})) << "the first cell behind what stays in view";
 }
 
 TEST_F(GridViewTest, FollowsTheGrid) {
-  table().SetRowHidden(5, true);
-  table().SetMaxRows(25);
-  Go(3, 24);
+  GridView& view = Table("pairs");
+  const auto heard = Listen(pairs());
+  pairs().SetRowHidden(5, true);
+  pairs().SetMaxRows(25);
+  GoTo(3, 24);
   EXPECT_EQ(Current(), (Cell{3, 24}));
-  EXPECT_TRUE(view_->isRowHidden(4));
-  EXPECT_EQ(view_->model()->rowCount(), 25);
-  table().SetMaxRows(10);
-  view_->Refresh();
-  EXPECT_EQ(view_->model()->rowCount(), 10);
+  EXPECT_TRUE(view.isRowHidden(4));
+  EXPECT_EQ(view.model()->rowCount(), 25);
+  pairs().SetMaxRows(10);
+  view.Refresh();
+  EXPECT_EQ(view.model()->rowCount(), 10);
   EXPECT_EQ(Current(), (Cell{3, 10}));
-  EXPECT_THAT(form().heard, IsEmpty());
+  EXPECT_THAT(*heard, IsEmpty());
 }
 
 TEST_F(GridViewTest, ListChoosesRows) {
-  list_->setFocus();
-  EXPECT_FALSE(list_->selectionModel()->hasSelection()) << "nobody has chosen yet";
-  Key(Qt::Key_Down);  // enters the list at its top
-  Key(Qt::Key_Down);
-  EXPECT_TRUE(list_->selectionModel()->isRowSelected(1));
-  ClickAt(*list_, 2, 4);
-  QHeaderView& heads = *list_->horizontalHeader();
+  GridView& list = Table("list");
+  std::vector<std::string> clicks;
+  form().list.on_click = [&](int column, int row) {
+    clicks.push_back(std::to_string(column) + "," + std::to_string(row));
+  };
+  list.setFocus();
+  EXPECT_FALSE(list.selectionModel()->hasSelection()) << "nobody has chosen yet";
+  user_->Press(Qt::Key_Down);  // enters the list at its top
+  user_->Press(Qt::Key_Down);
+  EXPECT_TRUE(list.selectionModel()->isRowSelected(1));
+  user_->ClickCell("list", 2, 4);
+  QHeaderView& heads = *list.horizontalHeader();
   QTest::mouseClick(heads.viewport(), Qt::LeftButton, {},
                     {heads.sectionViewportPosition(1) + 5, 5});
-  Key(Qt::Key_Left);
-  Key(Qt::Key_Return, Qt::ControlModifier);  // the head, without a mouse
-  EXPECT_THAT(form().heard, ElementsAre("click 1,1", "click 1,2", "click 2,4", "click 2,0",
-                                        "click 1,4", "click 1,0"));
+  user_->Press(Qt::Key_Left);
+  user_->Press(Qt::Key_Return, Qt::ControlModifier);  // the head, without a mouse
+  EXPECT_THAT(clicks, ElementsAre("1,1", "1,2", "2,4", "2,0", "1,4", "1,0"));
   form().list.SetActiveCell(1, 9);
-  list_->Refresh();
-  EXPECT_FALSE(list_->selectionModel()->isRowSelected(8)) << "code chose no row";
-  QTest::mousePress(list_->viewport(), Qt::LeftButton, {}, Place(*list_, 2, 6).center());
-  QTest::mouseRelease(list_->viewport(), Qt::LeftButton, {}, Place(*list_, 2, 7).center());
-  EXPECT_TRUE(list_->selectionModel()->isRowSelected(3)) << "neither did what was no click";
+  list.Refresh();
+  EXPECT_FALSE(list.selectionModel()->isRowSelected(8)) << "code chose no row";
+  QTest::mousePress(list.viewport(), Qt::LeftButton, {}, Place(list, 2, 6).center());
+  QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, Place(list, 2, 7).center());
+  EXPECT_TRUE(list.selectionModel()->isRowSelected(3)) << "neither did what was no click";
   form().list.SetChosenRow(0);
-  list_->Refresh();
-  EXPECT_FALSE(list_->selectionModel()->hasSelection()) << "the form has forgotten the choice";
+  list.Refresh();
+  EXPECT_FALSE(list.selectionModel()->hasSelection()) << "the form has forgotten the choice";
 }
 
 TEST_F(GridViewTest, SaysWhatItShows) {
-  table().SetText(3, 4, "5");
-  table().SetNote(7, 4, {"=", "Balances."});
+  GridView& view = Table("pairs");
+  pairs().SetText(3, 4, "5");
+  pairs().SetNote(7, 4, {"=", "Balances."});
   for (const auto& [column, row, text] : {std::tuple{3, 4, "Table 7, 7.1 Female, First block: 5"},
                                           {4, 4, "Table 7, 7.1 Female, Second: empty, locked"},
                                           {7, 4, "Table 7, 7.1 Female, Total: 5, total, Balances."},
                                           {6, 12, "Table 7, row 12, Remark: not ticked"}}) {
-    const QModelIndex cell = view_->model()->index(row - 1, column - 1);
+    const QModelIndex cell = view.model()->index(row - 1, column - 1);
     EXPECT_EQ(cell.data(Qt::AccessibleTextRole).toString(), text);
   }
-  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(view_);
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&view);
   EXPECT_EQ(accessible->text(QAccessible::Name), "Table 7");
   EXPECT_EQ(accessible->tableInterface()->columnDescription(2), "First block");
 }

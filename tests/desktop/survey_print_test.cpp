@@ -1,13 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QProcess>
-#include <QProgressDialog>
-#include <QPushButton>
 #include <algorithm>
 #include <map>
 
-#include "desktop/qt_dialogs.h"
 #include "desktop/qt_printer.h"
 #include "desktop_driver.h"
 #include "pages/survey_pages.h"
@@ -108,25 +104,6 @@ TEST_F(FilledSurvey, EveryAnswerOfEachStaffMemberStandsOnTheSheetOfItsPage) {
     ++sheet;
   }
   EXPECT_TRUE(dialogs.seen.empty());
-}
-
-TEST(QtProgress, ShowsALongJobAndStopsIt) {
-  QtDialogs dialogs([] { return nullptr; });
-  const auto progress = dialogs.BeginProgress("Print");
-  QProgressDialog* dialog = nullptr;
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (auto* found = qobject_cast<QProgressDialog*>(window)) dialog = found;
-  }
-  ASSERT_NE(dialog, nullptr);
-  EXPECT_TRUE(progress->Step(0, 20, "Page 1"));
-  EXPECT_FALSE(dialog->isVisible()) << "for a job that may soon be done";
-  dialog->setMinimumDuration(0);
-  EXPECT_TRUE(progress->Step(1, 20, "Page 2"));
-  EXPECT_TRUE(dialog->isVisible());
-  EXPECT_EQ(dialog->labelText(), "Page 2");
-  EXPECT_EQ(dialog->value(), 1);
-  dialog->findChild<QPushButton*>()->click();
-  EXPECT_FALSE(progress->Step(2, 20, "Page 3"));
 }
 
 }  // namespace

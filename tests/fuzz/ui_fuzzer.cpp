@@ -1,4 +1,10 @@
-#include "fuzz/ui_fuzzer.h"
+// ui-fuzzer SEED STEPS: works the real windows at random, unseen, as hands can: any key, click,
+// word and paste, boxes and dialogs answered somehow, the window closed and the program started
+// again, over a filled database in a folder of its own. Says each action before it is done, and the
+// first fault.
+//
+// After each step keys must go somewhere, every total must be the sum of its cells, and a page that
+// was saved must load as it was.
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -8,11 +14,13 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QPointer>
+#include <QStringList>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -24,16 +32,38 @@
 #include "base/text.h"
 #include "desktop/desktop.h"
 #include "desktop_driver.h"
-#include "fuzz/inputs.h"
+#include "offscreen.h"
 #include "pages/survey_pages.h"
 #include "platform/program_folder.h"
 #include "shell/register_shell.h"
 #include "support/filled_site.h"
+#include "support/page_filler.h"
 
 namespace survey::testing {
 namespace {
 
 namespace fs = std::filesystem;
+
+// What the fuzzer presses, types and pastes. What stands twice comes more often.
+
+const QStringList kKeys =
+    QString(
+        "Return Return Shift+Return Ctrl+Return Num+Enter Up Down Left Right Shift+Up Shift+Down "
+        "Shift+Left Shift+Right Ctrl+Down Alt+Down Tab Tab Shift+Backtab Esc F2 F4 Shift+F10 Menu "
+        "Del Backspace Ins Home End Ctrl+Home Ctrl+End Shift+End PgUp PgDown Ctrl+A Ctrl+C Ctrl+X "
+        "Ctrl+V Ctrl+Z Ctrl+S Ctrl+S Ctrl+S Ctrl+P Ctrl+M Ctrl+PgDown Ctrl+PgUp Space Space")
+        .split(' ');
+const QStringList kWords =
+    QString(
+        "0|7|31|007|1.5|-1|12 A|9999999|O'Brien|Söhne|中|😀|e\u0301|2012/02/30|%_*|1980-01-04|"
+        "\u200f1|x|Y| ")
+        .split('|');
+const QStringList kBlocks =
+    QString(
+        "1\t2\t3\r\n4\t5\t6\r\n|\"a\nb\"\t\"c\"\"d\"|\"open\t1\n2|\t\t\t|\r\n\r\n|12|x\ty||1\r2\r3|"
+        "8001015009087|\u2028\u2029|😀\t中")
+        .split('|');
+const QStringList kNames = {"North", "South Campus", "8001015009087", "A1"};
 
 constexpr int kLookEveryMs = 1;
 // Looks during which an action neither ends nor opens a dialog: it waits for its menu to be closed.
@@ -43,18 +73,18 @@ constexpr int kLongInAction = 400;
 // and totals left out. None of other pages, which drop lines that are not complete.
 std::optional<std::vector<std::string>> FiguresOf(const Form& form) {
   std::vector<std::string> figures;
+  bool takes_other = false;
   for (const Control* control : form.controls()) {
-    if (dynamic_cast<const ComboBox*>(control) != nullptr) return std::nullopt;
-    const auto* grid = dynamic_cast<const Grid*>(control);
-    for (int row = 1; grid != nullptr && row <= grid->MaxRows(); ++row) {
-      for (int column = 1; column <= grid->MaxColumns(); ++column) {
-        if (!grid->IsOpen(column, row) || grid->IsTotal(column, row)) continue;
-        if (grid->Kind(column, row).type != CellKind::Type::kNumber) return std::nullopt;
-        const std::string& text = grid->GetText(column, row);
-        figures.push_back(text == "0" ? "" : text);
-      }
-    }
+    takes_other = takes_other || dynamic_cast<const ComboBox*>(control) != nullptr;
   }
+  ForEachCell(form, [&](const GridControl& grid, Cell cell) {
+    const auto [column, row] = cell;
+    if (!grid.IsOpen(column, row) || grid.IsTotal(column, row)) return;
+    takes_other = takes_other || grid.Kind(column, row).type != CellKind::Type::kNumber;
+    const std::string& text = grid.GetText(column, row);
+    figures.push_back(text == "0" ? "" : text);
+  });
+  if (takes_other) return std::nullopt;
   return figures;
 }
 
@@ -76,17 +106,11 @@ void ExpectTotal(const Grid& grid, const Total& total, Cell cell) {
 }
 
 void ExpectTotals(const Form& form) {
-  for (const Control* control : form.controls()) {
-    const auto* grid = dynamic_cast<const Grid*>(control);
-    if (grid == nullptr) continue;
-    for (const Total& total : grid->design().totals) {
-      for (int row = total.cells.row; row <= total.cells.last_row; ++row) {
-        for (int column = total.cells.column; column <= total.cells.last_column; ++column) {
-          ExpectTotal(*grid, total, {column, row});
-        }
-      }
+  ForEachCell(form, [](const GridControl& grid, Cell cell) {
+    for (const Total& total : grid.design().totals) {
+      if (total.cells.Contains(cell)) ExpectTotal(grid, total, cell);
     }
-  }
+  });
 }
 
 std::string NameOf(const QWidget& widget) {
@@ -220,8 +244,8 @@ class UiFuzzer {
     const int what = Roll(100);
     if (what < 32) return Press(front);
     if (what < 52) return Type(front);
-    if (what < 72) return PushAny(front);
-    if (what < 92) return Click(front);
+    if (what < 72) return Click<QAbstractButton>(front);
+    if (what < 92) return Click<QWidget>(front);
     if (what < 99) return Paste(front);
     if (!Chance(front.parentWidget() == nullptr ? 20 : 100)) return;
     Note("closes " + NameOf(front));
@@ -280,35 +304,26 @@ class UiFuzzer {
     return parts.isEmpty() ? nullptr : Any(parts);
   }
 
-  void ClickAt(QWidget& front, QPoint place, Qt::MouseButton button, bool twice) {
+  template <typename Kind>
+  void Click(QWidget& front) {
+    const QWidget* part = AnyPart<Kind>(front);
+    const QRect rect = part == nullptr ? QRect() : part->visibleRegion().boundingRect();
+    if (rect.isEmpty()) return;
+    const QPoint place =
+        part->mapTo(&front, rect.topLeft() + QPoint(Roll(rect.width()), Roll(rect.height())));
     const QWidget* hit = front.childAt(place);
     const bool is_exit = hit != nullptr && hit->objectName() == "cmdExit";
     if (!front.rect().contains(place) || (is_exit && !Chance(10))) return;
+    const auto button = Chance(10) ? Qt::RightButton : Qt::LeftButton;
     Note((button == Qt::LeftButton ? "clicks " : "clicks right on ") +
-         std::string(twice ? "twice " : "") + NameOf(hit == nullptr ? front : *hit) + " at " +
-         std::to_string(place.x()) + "," + std::to_string(place.y()));
+         NameOf(hit == nullptr ? front : *hit) + " at " + std::to_string(place.x()) + "," +
+         std::to_string(place.y()));
     const QPointer<QWindow> window = front.windowHandle();
     QTest::mousePress(window, button, {}, place);
     if (window) QTest::mouseRelease(window, button, {}, place);
-    if (!twice || !window || !window->isVisible()) return;
+    if (!Chance(12) || !window || !window->isVisible()) return;
+    Note("clicks once more");
     QTest::mouseDClick(window, button, {}, place);
-  }
-
-  void Click(QWidget& front) {
-    const QWidget* part = AnyPart<QWidget>(front);
-    if (part == nullptr) return;
-    const QRect rect = part->visibleRegion().boundingRect();
-    if (rect.isEmpty()) return;
-    const QPoint place = rect.topLeft() + QPoint(Roll(rect.width()), Roll(rect.height()));
-    ClickAt(front, part->mapTo(&front, place), Chance(10) ? Qt::RightButton : Qt::LeftButton,
-            Chance(12));
-  }
-
-  void PushAny(QWidget& front) {
-    if (auto* button = AnyPart<QAbstractButton>(front)) {
-      ClickAt(front, button->mapTo(&front, QPoint(button->height() / 2, button->height() / 2)),
-              Qt::LeftButton, false);
-    }
   }
 
   // ---- What must be ----------------------------------------------------------------------------
@@ -373,7 +388,16 @@ class UiFuzzer {
 };
 
 }  // namespace
-
-bool RunUiFuzzer(std::uint32_t seed, int steps) { return UiFuzzer(seed, steps).Run(); }
-
 }  // namespace survey::testing
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::cerr << "usage: ui-fuzzer SEED STEPS\n";
+    return 2;
+  }
+  survey::UseOffscreenPlatform();
+  const QApplication application(argc, argv);
+  survey::SetUpApplication();
+  const auto seed = static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10));
+  return survey::testing::UiFuzzer(seed, std::atoi(argv[2])).Run() ? 0 : 1;
+}

@@ -130,20 +130,22 @@ TEST(GridTest, WhatTheUserDidIsTakenBackByStepsUntilCodeWrites) {
     for (const Cell cell : {Cell{2, 2}, {4, 1}, {2, 2}}) grid.Type(cell.column, cell.row, "6");
     grid.Type(2, 2, "7");
   }
-  const auto shown = [&] { return grid.GetText(2, 1) + grid.GetText(2, 2) + grid.GetText(4, 1); };
+  const auto shown = [&] {
+    return grid.GetText(2, 1) + "|" + grid.GetText(2, 2) + "|" + grid.GetText(4, 1);
+  };
   EXPECT_EQ(history.Undo().cell, Cell(2, 2));
-  EXPECT_EQ(shown(), "5");
+  EXPECT_EQ(shown(), "5||");
   EXPECT_EQ(grid.ActiveRow(), 2);
   history.Undo();
-  EXPECT_EQ(shown(), "0123") << "whatever it was";
+  EXPECT_EQ(shown(), "0123||") << "whatever it was";
   EXPECT_EQ(history.Undo().grid, nullptr);
   history.Redo();
   history.Redo();
-  EXPECT_EQ(shown(), "576");
+  EXPECT_EQ(shown(), "5|7|6");
   EXPECT_EQ(heard->back(), "cell 2,2");
   grid.SetLock(4, 1, true);
   EXPECT_EQ(history.Undo().entry.reason, "This cell is locked.");
-  EXPECT_EQ(shown(), "576") << "a step is taken back whole or not at all";
+  EXPECT_EQ(shown(), "5|7|6") << "a step is taken back whole or not at all";
   grid.SetLock(4, 1, false);
   history.Undo();
   grid.SetText(2, 3, "");  // changes nothing

@@ -23,12 +23,9 @@ const std::string kFind =
     "Select subjectCode,subjectid,description,programme from lst_Subject where ";
 const std::string kAssigned = "The subject you have selected has already been assigned as a ";
 
-class SubjectPages : public HeadlessProgram, public ::testing::Test {
+class SubjectPages : public PageTest {
  protected:
-  SubjectPages() {
-    RegisterShell(host);
-    RegisterPages(host);
-    OpenSite(101, 202);
+  SubjectPages() : PageTest(kTeaching, "gridSubjects") {
     RunScript(
         "delete from lst_Subject; insert into lst_Subject values (7,'100','Maths N1','Report 191'),"
         "(8,'101','Maths N2','Report 191'),(9,'200','Art of 101','NC(V)'),"
@@ -51,31 +48,28 @@ class SubjectPages : public HeadlessProgram, public ::testing::Test {
   Kind& On(const char* control) {
     return The<Kind>(page_, control);
   }
-  GridControl& Lines() { return On<GridControl>("gridSubjects"); }
   GridControl& Months() { return On<GridControl>("gridmonths"); }
   ComboBox& Combo() { return On<ComboBox>("cboSubject"); }
   const std::string& SearchText() { return On<TextBox>("txtSearch").Text; }
-  void Press(const char* button) { Click(page_, button); }
   void Search(const std::string& text) {
     On<TextBox>("txtSearch").Enter(text);
     statements.clear();
-    Press("cmdGo");
+    Click("cmdGo");
   }
   void Remove(const std::string& line) {
     On<TextBox>("txtRow").Enter(line);
-    Press("cmdRemove");
+    Click("cmdRemove");
   }
   void Save() {
     statements.clear();
-    Press("cmdSave");
+    PageTest::Save();
     EXPECT_FALSE(Unsaved());
   }
-  bool Unsaved() { return On<Button>("cmdSave").BackColor == kYellow; }
   // A line of the grid: "text|figures|code".
   std::string Line(int line) {
     std::string all;
-    for (int column = 2; column <= Lines().MaxColumns(); ++column) {
-      all += (column > 2 ? "|" : "") + Lines().GetText(column, line + 1);
+    for (int column = 2; column <= Table().MaxColumns(); ++column) {
+      all += (column > 2 ? "|" : "") + Table().GetText(column, line + 1);
     }
     return all;
   }
@@ -84,8 +78,6 @@ class SubjectPages : public HeadlessProgram, public ::testing::Test {
     for (const ListItem& item : Combo().items()) texts.push_back(item.text);
     return texts;
   }
-
-  std::string page_ = kTeaching;
 };
 
 TEST_F(SubjectPages, ASearchPicksItsFirstHitAndShowsTheOthers) {
@@ -127,9 +119,9 @@ TEST_F(SubjectPages, TheTypesOfferTheirProgrammeAndAreClearedBehindTheCatalogue)
                                      "' order by programme,description");
     const auto offered = Offered();
     EXPECT_EQ(offered.at(0), first);
-    EXPECT_EQ(SearchText() + " / " + Lines().GetText(2, 2), " / ");
+    EXPECT_EQ(SearchText() + " / " + Table().GetText(2, 2), " / ");
     modal_scripts = {[](Form& form) { form.Find<Button>("cmdDone").Click(); }};
-    Press(button);
+    Click(button);
     EXPECT_THAT(modal_scripts, IsEmpty());
     EXPECT_FALSE(option.Value());
     EXPECT_EQ(Offered(), offered);                                  // until it is asked anew
@@ -149,7 +141,7 @@ TEST_F(SubjectPages, ASixteenthSubjectIsDroppedAndAGapTakesTheNext) {
   EXPECT_FALSE(Unsaved());
   Remove("-3x");  // digits alone are taken
   EXPECT_TRUE(Unsaved());
-  EXPECT_EQ(Lines().GetText(1, 4) + ": " + Line(3) + " / " + Line(4),
+  EXPECT_EQ(Table().GetText(1, 4) + ": " + Line(3) + " / " + Line(4),
             "3: |||| / F4 Filler 4 Other||||F4");
   Combo().Choose(15);
   EXPECT_EQ(Line(3), "F16 Filler 16 Other||||F16");
@@ -160,11 +152,11 @@ TEST_F(SubjectPages, KeepsWholeNumbersOfTheLinesWithACode) {
   Combo().Choose(1);
   Search("Biology");
   for (const auto& [column, text] : {std::pair{3, "2.5"}, {4, "3.5"}, {5, "9999999.99"}}) {
-    EXPECT_TRUE(Lines().Type(column, 2, text).taken);
+    EXPECT_TRUE(Table().Type(column, 2, text).taken);
   }
-  EXPECT_FALSE(Lines().Type(3, 2, "10000000").taken || Lines().Type(3, 2, "-1").taken ||
-               Lines().Type(2, 2, "x").taken);
-  Lines().Type(3, 9, "4");  // on no subject
+  EXPECT_FALSE(Table().Type(3, 2, "10000000").taken || Table().Type(3, 2, "-1").taken ||
+               Table().Type(2, 2, "x").taken);
+  Table().Type(3, 9, "4");  // on no subject
   for (const int month : {2, 13, 5, 5}) Months().Tick(month, 3);
   Remove("2");
   Save();
@@ -188,8 +180,8 @@ TEST_F(SubjectPages, TheQualifiedListGoesByTheSameRulesInItsOwnTable) {
   Search("Maths");
   Search("Maths");
   EXPECT_EQ(LastBox(), kAssigned + "subject.");
-  Lines().Type(3, 2, "0.5");
-  Lines().Type(4, 2, "1.5");
+  Table().Type(3, 2, "0.5");
+  Table().Type(4, 2, "1.5");
   Save();
   EXPECT_THAT(statements, ElementsAre("Delete * from tbl_LecturerQualificationSubject " + kOfMember,
                                       kQualifiedInsert + "'100',0,2)"));
@@ -208,10 +200,10 @@ TEST_F(SubjectPages, ABrokenPrinterAndASearchThatFailsAreTold) {
        {std::pair{kTeaching, "frmEducatorTraining"}, {kQualified, "frmEducatorTraining1"}}) {
     Open(page);
     printer = {};
-    Press("cmdPrintPage");
+    Click("cmdPrintPage");
     EXPECT_EQ(printer.operations.at(4), "Print \" Campus EMIS NUMBER: 202 Staff ID: 8001\"");
     printer.broken = true;
-    Press("cmdPrintPage");
+    Click("cmdPrintPage");
     EXPECT_THAT(LastBox(), ToldBy(print, "Print Routine"));
   }
   RunScript("drop table lst_Subject");
@@ -225,16 +217,16 @@ TEST_F(SubjectPages, OnlyTheWayForwardAsks) {
         {kQualified, "frmEducatorTeaching", "frmLecQualifications2"}}) {
     Open(page, "8002");
     EXPECT_THAT(host.Front()->Caption, EndsWith("Emis Number : 202-  ID number: 8002"));
-    Lines().Type(3, 2, "1");
-    Press("cmdForward");
+    Table().Type(3, 2, "1");
+    Click("cmdForward");
     EXPECT_EQ(Front(), page);
     dialogs.answers = {kAnswerYes};
-    Press("cmdForward");
+    Click("cmdForward");
     EXPECT_EQ(Front() + " " + host.Front()->Property("EducatorId"), ahead + std::string(" 8002"));
     Open(page, "8003");
-    Lines().Type(3, 2, "1");
+    Table().Type(3, 2, "1");
     dialogs.seen.clear();
-    Press("cmdNext");
+    Click("cmdNext");
     EXPECT_EQ(Front() + " " + host.Front()->Property("EducatorId"), aside + std::string(" 8003"));
     EXPECT_THAT(dialogs.seen, IsEmpty());
   }

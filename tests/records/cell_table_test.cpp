@@ -85,18 +85,6 @@ TEST_F(CellTableTest, StoresFilledCellsInItsOrderAndReplacesThoseOfItsSiteYearAn
             "11 1 2 2012 5");
 }
 
-TEST_F(CellTableTest, WalksByRowAndLeavesZerosOut) {
-  for (const auto& [column, row, text] :
-       {std::tuple{3, 3, "4"}, {2, 3, "3"}, {3, 2, "2"}, {2, 2, "0"}}) {
-    grid_.SetText(column, row, text);
-  }
-  SaveCells(survey_, kACodeEach, grid_);
-  EXPECT_EQ(Rows(), "11 1 1 2012 2; 11 2 2 2012 3; 11 2 1 2012 4");
-  Grid again(kDesign);
-  LoadCells(survey_, kACodeEach, again);
-  EXPECT_EQ(again.GetText(3, 2) + "|" + again.GetText(2, 3) + "|" + again.GetText(3, 3), "2|3|4");
-}
-
 TEST_F(CellTableTest, ARecordOfUnknownCodesGoesWhereTheOneBeforeWent) {
   for (const char* row : {"9,2,2012,1", "3,1,2012,2", "4,9,2012,3", "null,1,2012,4"}) {
     survey_.Execute(kInsert + "(10,11," + row + ")");

@@ -31,12 +31,9 @@ std::vector<std::string> PageNames() {
 
 std::string TextsOf(const Form& form) {
   std::string all;
-  for (const Control* control : form.controls()) {
-    const auto* grid = dynamic_cast<const GridControl*>(control);
-    for (int row = 1; grid != nullptr && row <= grid->MaxRows(); ++row) {
-      for (int c = 1; c <= grid->MaxColumns(); ++c) all += grid->GetText(c, row) + "|";
-    }
-  }
+  ForEachCell(form, [&](const GridControl& grid, Cell cell) {
+    all += grid.GetText(cell.column, cell.row) + "|";
+  });
   return all;
 }
 

@@ -1,8 +1,8 @@
 #include "support/page_filler.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
+#include <map>
 #include <numeric>
 #include <stdexcept>
 
@@ -36,11 +36,6 @@ std::string NumberWithin(const CellKind& kind, int figure) {
   return NumberText(number);
 }
 
-std::string LowerCase(std::string text) {
-  std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
-  return text;
-}
-
 std::string Telephone(int figure) { return "021555" + Padded(figure, 4); }
 
 // What a question asks for that the kind of its cell does not tell.
@@ -50,8 +45,8 @@ struct Asked {
 };
 // clang-format off
 constexpr Asked kAsked[] = {
-    {"E-mail", [](int figure) { return "info@" + LowerCase(WordOf(figure)) + ".co.za"; }},
-    {"Website", [](int figure) { return "www." + LowerCase(WordOf(figure)) + ".co.za"; }},
+    {"E-mail", [](int figure) { return "info@" + WordOf(figure) + ".co.za"; }},
+    {"Website", [](int figure) { return "www." + WordOf(figure) + ".co.za"; }},
     {"Telephone", Telephone},
     {"Fax", Telephone},
     {"Title", [](int figure) { return std::string(figure % 2 == 0 ? "MS" : "MR"); }},
@@ -180,12 +175,7 @@ void FillSubjects(Form& page, Figures& figures, FilledPage& filled) {
   FillGrids(page, figures, filled.cells);
 }
 
-struct PageFilling {
-  const char* page;
-  void (*fill)(Form& page, Figures& figures, FilledPage& filled);
-};
-
-constexpr PageFilling kFillings[] = {
+const std::map<std::string_view, void (*)(Form&, Figures&, FilledPage&)> kFillings = {
     {"frmHostels", FillHostels},
     {"frmPage12_1", FillQualifications},
     {"frmEducatorTeaching", FillSubjects},
@@ -268,6 +258,15 @@ Figures Figures::OfVersion(int version) {
   return figures;
 }
 
+void ForEachCell(const Form& form, const std::function<void(const GridControl&, Cell)>& visit) {
+  for (const Control* control : form.controls()) {
+    const auto* grid = dynamic_cast<const GridControl*>(control);
+    for (int row = 1; grid != nullptr && row <= grid->MaxRows(); ++row) {
+      for (int column = 1; column <= grid->MaxColumns(); ++column) visit(*grid, {column, row});
+    }
+  }
+}
+
 void AnswerGrids(Form& page, Figures& figures) {
   std::vector<FilledCell> filled;
   FillGrids(page, figures, filled);
@@ -275,11 +274,11 @@ void AnswerGrids(Form& page, Figures& figures) {
 
 FilledPage FillPage(Form& page, Figures& figures) {
   FilledPage filled{page.name(), {}};
-  const auto* const filling = std::ranges::find(kFillings, page.name(), &PageFilling::page);
-  if (filling == std::end(kFillings)) {
+  const auto filling = kFillings.find(page.name());
+  if (filling == kFillings.end()) {
     FillGrids(page, figures, filled.cells);
   } else {
-    filling->fill(page, figures, filled);
+    filling->second(page, figures, filled);
   }
   page.Find<Button>("cmdSave").Click();
   return filled;

@@ -1,13 +1,18 @@
 #ifndef TESTS_SUPPORT_PAGE_FILLER_H_
 #define TESTS_SUPPORT_PAGE_FILLER_H_
 
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "forms/control_kinds.h"
 #include "forms/form_host.h"
 #include "printing/page_print.h"
 
 namespace survey::testing {
+
+// Every cell of a form's grids, row by row.
+void ForEachCell(const Form& form, const std::function<void(const GridControl&, Cell)>& visit);
 
 // Makes it the page of that staff member, where the form is one of the staff's; `mode` is the
 // record's, "New" or "Edit".

@@ -98,13 +98,14 @@ class PageTest : public HeadlessProgram, public ::testing::Test {
     }
   }
 
+  std::string page_;
+
  private:
   void Start() {
     statements.clear();
     host.Start(page_);
   }
 
-  std::string page_;
   std::string grid_;
   int index_;
 };

@@ -40,13 +40,16 @@ TEST_F(SurveyListsTest, ReadsWhatASpreadsheetSaves) {
              "0456,\"Maths, \"\"pure\"\"\",NC(V)\r\n 456 ,Élan,Report 191");
   const SurveyLists lists = ReadSurveyLists(folder_.string());
   ASSERT_EQ(lists.subjects.size(), 2u);
-  EXPECT_EQ(lists.subjects[0].code + lists.subjects[1].code, "0456456");
-  EXPECT_EQ(lists.subjects[0].description + lists.subjects[1].description, "Maths, \"pure\"Élan");
+  EXPECT_EQ(lists.subjects[0].code + "|" + lists.subjects[1].code, "0456|456");
+  EXPECT_EQ(lists.subjects[0].description + "|" + lists.subjects[1].description,
+            "Maths, \"pure\"|Élan");
   ASSERT_EQ(lists.sites.size(), 2u);
   const auto& [college, college_name, campus, campus_name, type, province] = lists.sites[1];
-  EXPECT_TRUE(college == 10 && campus == 11 && type == 2 && province == 7);
-  EXPECT_EQ(college_name + campus_name + lists.provinces[1].name, "NorthHillGauteng");
-  EXPECT_TRUE(lists.qualifications[0].nqf_id == 58761 && lists.qualifications[0].field == 11);
+  EXPECT_EQ(std::tuple(college, campus, type, province), std::tuple(10, 11, 2, 7));
+  EXPECT_EQ(college_name + "|" + campus_name, "North|Hill");
+  EXPECT_EQ(lists.provinces[1].name, "Gauteng");
+  const auto& [nqf_id, title, field, level] = lists.qualifications[0];
+  EXPECT_EQ(std::tuple(nqf_id, title, field, level), std::tuple(58761, "Baker", 11, "2"));
 }
 
 TEST_F(SurveyListsTest, EachFaultIsToldWithFileLineAndReason) {
