@@ -17,23 +17,32 @@ source_apt() {
   own_apt -o Dir::Etc::sourcelist="$windows_cache/sources.list" -o Dir::Etc::sourceparts=/dev/null "$@"
 }
 
-# Of the mirrors that the system uses itself. Debian keeps the later store engine among its backports.
+# What the user has to know of a library that cannot be built; nothing else is then told.
+not_to_be_had=3
+give_up() {
+  echo "$*" >&3
+  exit $not_to_be_had
+}
+
+# Of the mirrors that the system uses itself, that of the security fixes last: some lack what the main
+# one has, too. Debian keeps the later store engine among its backports.
 refresh_source_lists() {
   local mirror suite keyring=/usr/share/keyrings/debian-archive-keyring.gpg
   [ -z "$(find "$windows_cache/lists/fetched" -mmin -60 2> /dev/null)" ] || return 0
   mkdir -p "$windows_cache/lists/partial"
-  own_apt update
+  own_apt update || true  # of another list than Debian's, perhaps
   own_apt indextargets --format '$(REPO_URI) $(CODENAME)' 'Created-By: Packages' 'Origin: Debian' \
-    'Component: main' | sort -u | while read -r mirror suite; do
+    'Component: main' | sort -ru | while read -r mirror suite; do
     echo "deb-src [signed-by=$keyring] $mirror $suite main"
     [ "$suite" != bookworm ] || echo "deb-src [signed-by=$keyring] $mirror $suite-backports main"
   done > "$windows_cache/sources.list"
-  source_apt update
+  [ -s "$windows_cache/sources.list" ] && source_apt -o APT::Update::Error-Mode=any update ||
+    give_up "Debian's mirrors cannot be reached. The libraries are built of sources from there, once."
   touch "$windows_cache/lists/fetched"
 }
 
 # Brings the files of a source package that sources.sha256 names into the current folder; options are
-# those of `apt-get source`. Fails where one cannot be had or is not what it was.
+# those of `apt-get source`. Gives up where one cannot be had or is not what it was.
 fetch_sources() {  # PACKAGE VERSION [OPTION ...]
   local package=$1 version=$2 kept=$windows_cache/sources first
   shift 2
@@ -46,10 +55,8 @@ fetch_sources() {  # PACKAGE VERSION [OPTION ...]
   if ! are_there > /dev/null 2>&1; then
     refresh_source_lists
     (cd "$kept" && source_apt source --download-only "$@" "$package=$version") || true
-    are_there || {
-      echo "What sources.sha256 says of $package $version is not to be had: docs/windows.md, Renewing."
-      return 1
-    }
+    are_there || give_up "Debian's mirrors do not have the sources of $package $version," \
+      "or not those of the sums: see docs/windows.md, Renewing."
   fi
   sed 's/^[0-9a-f]* [ *]//' sums | while read -r file; do ln -s "$kept/$file" .; done
 }
@@ -75,11 +82,11 @@ library() {  # NAME
     # it is whole.
     set +e
     (set -e; cd "$work"; prefix=$work/prefix; . "$windows_packaging/libraries/$name.sh") \
-      > "$work/log" 2>&1 < /dev/null
+      3>&2 > "$work/log" 2>&1 < /dev/null
     status=$?
     set -e
     if [ "$status" -ne 0 ]; then
-      tail -n 30 "$work/log" >&2
+      [ "$status" -eq $not_to_be_had ] || tail -n 30 "$work/log" >&2
       echo "$name could not be built: $work/log" >&2
       return 1
     fi

@@ -45,7 +45,7 @@ class KillTest : public ::testing::Test {
     AnotherProgram program(arguments);
     std::array<int, 2> count{};
     while (const char mark = program.Read()) ++count[mark == 'e'];
-    EXPECT_TRUE(program.Status() == AnotherProgram::kKilled || program.Status() == 0)
+    EXPECT_TRUE(program.Status() == kKilled || program.Status() == 0)
         << "it has crashed, or refused a save";
     return count;
   }

@@ -1,6 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#ifndef _WIN32
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
+#include <csignal>
 #include <ctime>
 #include <fstream>
 #include <set>
@@ -245,6 +251,31 @@ TEST_F(SelectDatabase, ANewDatabaseTakesNothingOverFromOneThatWasThrownAway) {
   EXPECT_EQ(Bytes(database), Bytes(TemplateFile()));
   EXPECT_EQ(std::distance(fs::directory_iterator(Data()), {}), 1);
 }
+
+#ifndef _WIN32
+// The child is killed by the first byte beyond what a file may hold.
+TEST_F(SelectDatabase, AKillInTheCopyLeavesNoDatabaseAndItsNameFree) {
+  DataFolder data(folder.path());
+  data.MakeSure();
+  const pid_t program = fork();
+  if (program == 0) {
+    const rlimit few{20'000, 20'000};
+    setrlimit(RLIMIT_FSIZE, &few);
+    data.CopyTemplate("North");
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(program, &status, 0);
+  ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ);
+  EXPECT_THAT(data.Names(), IsEmpty());
+  ASSERT_EQ(data.Look("North"), Found::kNo);
+  const auto left = *fs::directory_iterator(Data());
+  fs::last_write_time(left.path(), fs::file_time_type::clock::now() - std::chrono::hours(2));
+  data.CopyTemplate("North");
+  EXPECT_EQ(Bytes(Data() / "North.mdb"), Bytes(TemplateFile()));
+  EXPECT_FALSE(fs::exists(left.path()));
+}
+#endif
 
 TEST_F(SelectDatabase, AChosenDatabaseIsCopiedOnceADayAndTenTimesAtMost) {
   PutDatabase("North.mdb");

@@ -5,14 +5,14 @@
 #include <string>
 #include <vector>
 
+class QProcess;
+
 namespace survey::testing {
 
 // A process of its own that works on a database while a test does: another_program_main.cpp tells
 // what it can. Killed at the latest when this goes.
 class AnotherProgram {
  public:
-  static constexpr int kKilled = 137;  // the status of one that was killed
-
   explicit AnotherProgram(const std::vector<std::string>& arguments);
   ~AnotherProgram();
   AnotherProgram(AnotherProgram&& other) noexcept;
@@ -24,8 +24,7 @@ class AnotherProgram {
   int Status();
 
  private:
-  struct Process;
-  std::unique_ptr<Process> process_;
+  std::unique_ptr<QProcess> process_;
 };
 
 }  // namespace survey::testing

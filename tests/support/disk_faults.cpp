@@ -4,19 +4,8 @@
 #include <sqlite3.h>
 
 #include <climits>
-#include <stdexcept>
-
-#ifdef _WIN32
-#include <windows.h>
-
-#include <filesystem>
-#else
-#include <signal.h>
-#include <sys/types.h>
-#include <unistd.h>
-
-#include <cerrno>
-#endif
+#include <cstdlib>
+#include <map>
 
 namespace survey::testing {
 namespace {
@@ -35,83 +24,55 @@ void DieAtLastCall() {
   if (IsLastCall()) KillSelf();
 }
 
-using Call = sqlite3_syscall_ptr;
+// The system's own way to the disk, and what it does with a file.
+sqlite3_vfs* disk = nullptr;
+const sqlite3_io_methods* file_calls = nullptr;
 
-// Puts `call` in the place of the first of the names that this engine knows.
-void Replace(std::initializer_list<const char*> names, Call call) {
-  sqlite3_vfs* disk = sqlite3_vfs_find(nullptr);
-  for (const char* name : names) {
-    if (disk->xGetSystemCall(disk, name) == nullptr) continue;
-    disk->xSetSystemCall(disk, name, call);
-    return;
-  }
-  throw std::runtime_error("the engine writes in a way not known here");
-}
-
-#ifdef _WIN32
-
-BOOL WINAPI FaultyWrite(HANDLE file, const void* bytes, DWORD size, DWORD* written,
-                        OVERLAPPED* at) {
+int FaultyWrite(sqlite3_file* file, const void* bytes, int size, sqlite3_int64 offset) {
   if (IsLastCall()) {
-    WriteFile(file, bytes, size / 2, written, at);
+    file_calls->xWrite(file, bytes, size / 2, offset);
     KillSelf();
   }
-  if (order.calls < order.full_from) return WriteFile(file, bytes, size, written, at);
-  SetLastError(ERROR_DISK_FULL);
-  return FALSE;
+  if (order.calls >= order.full_from) return SQLITE_FULL;
+  return file_calls->xWrite(file, bytes, size, offset);
 }
 
-BOOL WINAPI FaultyTruncate(HANDLE file) {
+int FaultyTruncate(sqlite3_file* file, sqlite3_int64 size) {
   DieAtLastCall();
-  return SetEndOfFile(file);
+  return file_calls->xTruncate(file, size);
 }
 
-BOOL WINAPI FaultyRemove(const wchar_t* path) {
-  DieAtLastCall();
-  if (order.see_removal) order.see_removal(std::filesystem::path(path).string());
-  return DeleteFileW(path);
-}
-
-void InstallOnce() {
-  Replace({"WriteFile"}, reinterpret_cast<Call>(FaultyWrite));
-  Replace({"SetEndOfFile"}, reinterpret_cast<Call>(FaultyTruncate));
-  Replace({"DeleteFileW"}, reinterpret_cast<Call>(FaultyRemove));
-}
-
-#else
-
-ssize_t FaultyWrite(int file, const void* bytes, std::size_t size, off_t offset) {
-  if (IsLastCall()) {
-    if (pwrite(file, bytes, size / 2, offset) < 0) _exit(1);
-    KillSelf();
-  }
-  if (order.calls < order.full_from) return pwrite(file, bytes, size, offset);
-  errno = ENOSPC;
-  return -1;
-}
-
-int FaultyTruncate(int file, off_t size) {
-  DieAtLastCall();
-  return ftruncate(file, size);
-}
-
-int FaultyRemove(const char* path) {
+int FaultyRemove(sqlite3_vfs*, const char* path, int sync) {
   DieAtLastCall();
   if (order.see_removal) order.see_removal(path);
-  return unlink(path);
+  return disk->xDelete(disk, path, sync);
 }
 
-void InstallOnce() {
-  Replace({"pwrite64", "pwrite"}, reinterpret_cast<Call>(FaultyWrite));
-  Replace({"ftruncate"}, reinterpret_cast<Call>(FaultyTruncate));
-  Replace({"unlink"}, reinterpret_cast<Call>(FaultyRemove));
+// Files differ in how they are locked, and not in how they are written.
+int OpenFaulty(sqlite3_vfs*, const char* path, sqlite3_file* file, int flags, int* flags_then) {
+  static std::map<const sqlite3_io_methods*, sqlite3_io_methods> faulty;
+  const int result = disk->xOpen(disk, path, file, flags, flags_then);
+  if (file->pMethods == nullptr) return result;
+  file_calls = file->pMethods;
+  sqlite3_io_methods& calls = faulty.try_emplace(file_calls, *file_calls).first->second;
+  calls.xWrite = FaultyWrite;
+  calls.xTruncate = FaultyTruncate;
+  file->pMethods = &calls;
+  return result;
 }
 
-#endif
+// Before any file is opened.
+const bool installed = [] {
+  disk = sqlite3_vfs_find(nullptr);
+  static sqlite3_vfs faulty = *disk;
+  faulty.xOpen = OpenFaulty;
+  faulty.xDelete = FaultyRemove;
+  return sqlite3_vfs_register(&faulty, 1) == SQLITE_OK;
+}();
 
 void Give(Order given) {
-  static const bool installed = (InstallOnce(), true);
-  if (installed) order = std::move(given);
+  if (!installed) std::abort();
+  order = std::move(given);
 }
 
 }  // namespace
@@ -126,12 +87,6 @@ void SeeRemovals(std::function<void(const std::string& path)> see) {
 
 void EndDiskFaults() { order = {}; }
 
-void KillSelf() {
-#ifdef _WIN32
-  for (;;) TerminateProcess(GetCurrentProcess(), 137);
-#else
-  for (;;) kill(getpid(), SIGKILL);
-#endif
-}
+void KillSelf() { std::_Exit(kKilled); }
 
 }  // namespace survey::testing

@@ -8,7 +8,6 @@ namespace survey::testing {
 
 // Stands between the store's engine and the disk of this process, and lets a call that would change
 // a file go wrong: a write, a truncation, a removal. Calls are counted from 1 since the last order.
-// Once installed it stays for the rest of the process.
 
 // From the call `first` on every write finds the disk full; a file may still be cut or removed.
 void FillDiskAt(int first);
@@ -21,7 +20,9 @@ void SeeRemovals(std::function<void(const std::string& path)> see);
 
 void EndDiskFaults();
 
-// Ends the process as a kill from outside does: nothing is tidied up.
+constexpr int kKilled = 137;
+
+// Ends the process with the status kKilled, and as a kill from outside does: nothing is tidied up.
 [[noreturn]] void KillSelf();
 
 }  // namespace survey::testing

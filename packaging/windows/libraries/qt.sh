@@ -10,7 +10,7 @@ left_out="direct2d1_1
   system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 system_doubleconversion
   graphicsview mdiarea wizard dial lcdnumber fontcombobox fontdialog colordialog errormessage
   splashscreen columnview datawidgetmapper keysequenceedit undocommand undostack undogroup undoview
-  printpreviewwidget printpreviewdialog textmarkdownreader textmarkdownwriter textodfwriter
+  printpreviewwidget printpreviewdialog textmarkdownwriter textodfwriter
   syntaxhighlighter movie jpeg gif ico transposeproxymodel concatenatetablesproxymodel
   jalalicalendar islamiccivilcalendar hijricalendar sharedmemory systemsemaphore"
 cmake -G Ninja -S source -B build -DCMAKE_TOOLCHAIN_FILE="$toolchain" -DCMAKE_BUILD_TYPE=Release \

@@ -16,7 +16,7 @@ cp source/LICENSE.md "$prefix/licences/sqlcipher"
 x86_64-w64-mingw32-ar rcs "$prefix/lib/libsqlcipher.a" sqlite3.o
 cp source/sqlite3.h "$prefix/include/sqlcipher"
 cat > "$prefix/lib/pkgconfig/sqlcipher.pc" << end
-prefix=\${pcfiledir}/../..
+prefix=$(library_prefix sqlcipher)
 Name: SQLCipher
 Description: SQLite with encryption
 Version: $(cut -d ' ' -f 1 source/VERSION)
