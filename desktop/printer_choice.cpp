@@ -5,14 +5,38 @@
 #include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QStandardPaths>
 
 #include "desktop/system_habits.h"
 
 namespace survey {
+namespace {
+
+// Windows' own printer of PDF files would ask for another file for each job.
+constexpr char kPdfPrinter[] = "Microsoft Print to PDF";
+
+bool AskForFile(QPrinter& printer, const QString& title) {
+  QFileDialog dialog(QApplication::activeWindow(), title, {}, QObject::tr("PDF files (*.pdf)"));
+  dialog.setObjectName("PrintFileDialog");
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix("pdf");
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  dialog.selectFile(printer.outputFileName().isEmpty() ? QDir(documents).filePath(printer.docName())
+                                                       : printer.outputFileName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+  const QPageLayout layout = printer.pageLayout();
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setPageLayout(layout);
+  printer.setOutputFileName(dialog.selectedFiles().constFirst());
+  return true;
+}
+
+}  // namespace
+
 bool AskForPrinter(QPrinter& printer) {
   if (!kPrintDialogServesFiles) {
     if (QPrinterInfo::availablePrinterNames().isEmpty()) return AskForFile(printer);
-    if (printer.outputFormat() == QPrinter::PdfFormat) {  // there was no printer before
+    if (printer.outputFormat() == QPrinter::PdfFormat) {  // chosen for the print before
       printer.setOutputFileName({});
       printer.setOutputFormat(QPrinter::NativeFormat);
     }
@@ -20,21 +44,13 @@ bool AskForPrinter(QPrinter& printer) {
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   dialog.setOptions(QAbstractPrintDialog::PrintShowPageSize);
   dialog.setOption(QAbstractPrintDialog::PrintToFile, kPrintDialogServesFiles);
-  return dialog.exec() == QDialog::Accepted;
+  if (dialog.exec() != QDialog::Accepted) return false;
+  return printer.printerName() != kPdfPrinter ||
+         AskForFile(printer, QObject::tr("Save as a PDF file"));
 }
 
 bool AskForFile(QPrinter& printer) {
-  QFileDialog dialog(QApplication::activeWindow(),
-                     QObject::tr("There is no printer: save as a PDF file"), {},
-                     QObject::tr("PDF files (*.pdf)"));
-  dialog.setObjectName("PrintFileDialog");
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix("pdf");
-  dialog.selectFile(printer.outputFileName());
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(dialog.selectedFiles().constFirst());
-  return true;
+  return AskForFile(printer, QObject::tr("There is no printer: save as a PDF file"));
 }
 
 }  // namespace survey

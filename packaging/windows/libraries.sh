@@ -93,6 +93,8 @@ library() {  # NAME
     mv "$work/prefix" "$prefix"
     rm -rf "$work"
   fi
+  [ "$(readlink "build/windows-libraries/$name")" != "$prefix" ] || return 0
   mkdir -p build/windows-libraries
   ln -sfn "$prefix" "build/windows-libraries/$name"
+  rm -f build/windows/CMakeCache.txt  # which remembers where the last one lay
 }

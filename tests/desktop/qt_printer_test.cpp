@@ -165,7 +165,8 @@ TEST_F(QtPrinterTest, AFileIsOfferedWhereThereIsNoPrinterAndTheDialogServesNone)
     if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
       proposed = dialog->selectedFiles().value(0);
       dialog->selectFile(QString(chosen).chopped(4));  // the ending comes by itself
-      accept ? dialog->accept() : dialog->reject();
+      QDialog& answered = *dialog;
+      accept ? answered.accept() : answered.reject();
     }
   });
   answer.start(20);

@@ -182,8 +182,8 @@ void MeetFault(const FileFault& fault, const FailuresOf& failures) {
   const std::string page = failures.page;
   SCOPED_TRACE(page + ", " + fault.name);
   FilledSite site;
-  const fs::path file = site.survey.DatabasePath;
-  const auto size = [&] { return exists(file) ? file_size(file) : 0; };
+  const std::string file = site.survey.DatabasePath;
+  const auto size = [&] { return fs::exists(file) ? fs::file_size(file) : 0; };
   Form& form = site.Open(page);
   const auto before = AllRows(file);
   site.Fill(form, 7);
