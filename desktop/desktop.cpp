@@ -42,9 +42,16 @@ class SurveyStyle : public QProxyStyle {
       DrawFrame(*option, *painter);
       return;
     }
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool is_box = element == PE_IndicatorCheckBox;
-    if (!is_box && element != PE_IndicatorRadioButton) return;
+    const auto* mark_option = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if ((!is_box && element != PE_IndicatorRadioButton) || mark_option == nullptr) {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+      return;
+    }
+    // In dark colours some systems fill a mark as if it were ticked.
+    QStyleOptionButton open(*mark_option);
+    open.palette.setBrush(QPalette::Base, QApplication::palette().base());
+    QProxyStyle::drawPrimitive(element, &open, painter, widget);
     QColor line = option->palette.color(QPalette::WindowText);
     line.setAlpha(kMarkLineAlpha);
     painter->save();

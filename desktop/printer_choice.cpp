@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QStandardPaths>
@@ -21,8 +22,11 @@ bool AskForFile(QPrinter& printer, const QString& title) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  dialog.selectFile(printer.outputFileName().isEmpty() ? QDir(documents).filePath(printer.docName())
-                                                       : printer.outputFileName());
+  const QFileInfo proposed(printer.outputFileName().isEmpty()
+                               ? QDir(documents).filePath(printer.docName())
+                               : printer.outputFileName());
+  dialog.setDirectory(proposed.absolutePath());
+  dialog.selectFile(proposed.fileName());
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
   const QPageLayout layout = printer.pageLayout();
   printer.setOutputFormat(QPrinter::PdfFormat);

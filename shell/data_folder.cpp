@@ -18,6 +18,8 @@ constexpr char kDataFolder[] = "Data2012";
 // What the engine lays beside a database, named after it.
 constexpr const char* kCompanions[] = {"-journal", "-wal"};
 
+constexpr std::size_t kLongestName = 255;  // of a file, in bytes; some systems take fewer letters
+
 std::string Quoted(const fs::path& path) { return '"' + Utf8(path) + '"'; }
 
 void CopyFile(const fs::path& original, const fs::path& path) {
@@ -64,11 +66,12 @@ std::string DataFolder::PathOf(const std::string& name) const {
 
 Found DataFolder::Look(const std::string& name) const {
   if (name.find_first_of("/\\") != std::string::npos) return Found::kFailed;
+  if ((name + ".mdb" + kCompanions[0]).size() > kLongestName) return Found::kFailed;
   std::error_code error;
   const fs::file_status status = fs::symlink_status(ToPath(PathOf(name)), error);
   if (status.type() == fs::file_type::none) return Found::kFailed;
   if (status.type() != fs::file_type::not_found) return Found::kYes;
-  // One left without its database is removed; a name too long for it, or a folder, is in the way.
+  // One left without its database is removed; a folder is in the way.
   const fs::path journal = ToPath(PathOf(name) + kCompanions[0]);
   const fs::file_type left = fs::symlink_status(journal, error).type();
   if (left == fs::file_type::none) return Found::kFailed;

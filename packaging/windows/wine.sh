@@ -17,5 +17,11 @@ if [ ! -f "$WINEPREFIX/ready" ]; then
   mkdir -p "$WINEPREFIX"
   wineboot --init > /dev/null 2>&1
   winecfg -v win10 > /dev/null 2>&1
+  # The texts of windows in a font of about the widths and of the size (12 pixels) that Windows has.
+  name=$(printf %s 'Open Sans' | iconv -t UTF-16LE | od -An -v -tx1 | tr -d ' \n')
+  wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /f /v MessageFont /t REG_BINARY \
+    /d "f4ffffff$(printf %024d 0)90010000$(printf %016d 0)$name$(printf %0$((128 - ${#name}))d 0)" \
+    > /dev/null
+  wineserver --wait
   touch "$WINEPREFIX/ready"
 fi

@@ -6,7 +6,7 @@ build=$(realpath "$(dirname "$0")/../../build/windows")
 . "$(dirname "$0")/desktop.sh"
 export WINEPREFIX=$scratch/wine
 trap 'wineserver -k || true; clean_up' EXIT
-wineboot --init > /dev/null 2>&1
+cp -a "$build/wine" "$WINEPREFIX"
 
 place="$scratch/tmp/Prüfung und Übung"
 mkdir "$place"

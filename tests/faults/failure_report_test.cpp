@@ -129,8 +129,6 @@ struct FileFault {
 
 fs::path Aside(const fs::path& file) { return file.string() + ".aside"; }
 
-void PutBack(const fs::path& file) { fs::rename(Aside(file), file); }
-
 // In place: the file that is open must be the same.
 void WriteBack(const fs::path& file) {
   {
@@ -154,6 +152,8 @@ void MakeReadOnly(const fs::path& file) {
 }
 
 void MakeWritable(const fs::path&) { folder.reset(); }
+
+void PutBack(const fs::path& file) { fs::rename(Aside(file), file); }
 #endif
 
 const FileFault kFileFaults[] = {
