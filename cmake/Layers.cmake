@@ -21,7 +21,9 @@ if(NOT SURVEY_SANITIZE)
   set(CMAKE_POSITION_INDEPENDENT_CODE ON)
   target_compile_options(survey_options INTERFACE -fstack-protector-strong
     $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
-  if(NOT WIN32)
+  if(WIN32)
+    target_link_libraries(survey_options INTERFACE -l:libssp.a)  # the guard on the stack
+  else()
     target_link_options(survey_options INTERFACE -Wl,-z,relro -Wl,-z,now)
   endif()
 endif()

@@ -26,3 +26,13 @@ function(survey_pictures target)
   endforeach()
   qt_add_resources(${target} pictures PREFIX /pictures BASE ${picture_folder} FILES ${pictures})
 endfunction()
+
+# The program's drawing as Windows takes it, all sizes in one file.
+if(WIN32)
+  find_program(ICOTOOL icotool REQUIRED)
+  set(program_icon ${picture_folder}/program.ico)
+  list(TRANSFORM icon_sizes REPLACE "(.+)" "${picture_folder}/program-\\1.png" OUTPUT_VARIABLE parts)
+  add_custom_command(OUTPUT ${program_icon} COMMAND ${ICOTOOL} --create --output ${program_icon} ${parts}
+                     DEPENDS ${parts} VERBATIM)
+  add_custom_target(program_icon DEPENDS ${program_icon})
+endif()

@@ -1,5 +1,6 @@
 #include "desktop/desktop.h"
 
+#include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QApplication>
 #include <QGroupBox>
@@ -16,12 +17,14 @@
 #include "desktop/qt_program_folder.h"
 #include "desktop/qt_settings.h"
 #include "desktop/surroundings.h"
+#include "desktop/system_habits.h"
 #include "forms/message_boxes.h"
 
 namespace survey {
 namespace {
 
 constexpr int kMarkLineAlpha = 170;
+constexpr int kFrameLine = 130;  // percent darker than the window
 
 // The same looks on every desktop, so that colours which mean something are seen everywhere.
 class SurveyStyle : public QProxyStyle {
@@ -51,9 +54,20 @@ class SurveyStyle : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     if (element == PE_FrameGroupBox && IsFlat(widget)) return;
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+      DrawFrame(*option, *painter);
+      return;
+    }
     const bool is_box = element == PE_IndicatorCheckBox;
-    if (!is_box && element != PE_IndicatorRadioButton) return;
+    const auto* mark_option = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if ((!is_box && element != PE_IndicatorRadioButton) || mark_option == nullptr) {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+      return;
+    }
+    // In dark colours some systems fill a mark as if it were ticked.
+    QStyleOptionButton open(*mark_option);
+    open.palette.setBrush(QPalette::Base, QApplication::palette().base());
+    QProxyStyle::drawPrimitive(element, &open, painter, widget);
     QColor line = option->palette.color(QPalette::WindowText);
     line.setAlpha(kMarkLineAlpha);
     painter->save();
@@ -84,6 +98,17 @@ class SurveyStyle : public QProxyStyle {
     const auto* frame = qobject_cast<const QGroupBox*>(widget);
     return frame != nullptr && frame->isFlat();
   }
+
+  // The style's own line lies beside the pixels that the frame has on screens at 150 %, where what
+  // is inside covers it.
+  static void DrawFrame(const QStyleOption& option, QPainter& painter) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(option.palette.color(QPalette::Window).darker(kFrameLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+  }
 };
 
 }  // namespace
@@ -111,6 +136,7 @@ void SetUpApplication() {
   QCoreApplication::setApplicationName(kProgramName);
   QApplication::setStyle(new SurveyStyle);
   QAccessible::installFactory(MakeGridAccessible);
+  UseSharpFonts();
   QApplication::setWindowIcon(ProgramIcon());
   // A program without a window may still be about to show its next one.
   QApplication::setQuitOnLastWindowClosed(false);

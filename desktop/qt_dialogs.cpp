@@ -10,6 +10,7 @@
 #include <QProgressDialog>
 
 #include "desktop/pictures.h"
+#include "desktop/system_habits.h"
 #include "forms/message_boxes.h"
 
 namespace survey {
@@ -85,8 +86,9 @@ int QtDialogs::ShowMessage(const MessageBox& box) {
     const qreal ratio = parent == nullptr ? qApp->devicePixelRatio() : parent->devicePixelRatioF();
     message.setIconPixmap(BoxPicture(box.picture, kPictureSize, ratio));
   } else if ((box.type & kIconMask) == kInformationIcon) {
-    message.setIcon(QMessageBox::Information);
+    message.setIcon(QMessageBox::Information);  // the toolkit sounds for its own icons alone
   }
+  if (message.icon() == QMessageBox::NoIcon) SoundBox(box.picture);
   if ((box.type & kButtonsMask) != kYesNo) {
     message.setStandardButtons(QMessageBox::Ok);
     message.exec();

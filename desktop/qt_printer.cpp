@@ -1,12 +1,10 @@
 #include "desktop/qt_printer.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageLayout>
-#include <QPrintDialog>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <algorithm>
@@ -15,6 +13,7 @@
 
 #include "base/run_time_error.h"
 #include "desktop/grid_pages.h"
+#include "desktop/system_habits.h"
 
 namespace survey {
 namespace {
@@ -60,12 +59,6 @@ bool IsWhole(const QString& path) {
 }
 
 }  // namespace
-
-bool AskForPrinter(QPrinter& printer) {
-  QPrintDialog dialog(&printer, QApplication::activeWindow());
-  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-  return dialog.exec() == QDialog::Accepted;
-}
 
 QtPrinter::QtPrinter(PrinterChoice choose)
     : choose_(std::move(choose)), printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
@@ -140,7 +133,11 @@ void QtPrinter::BeginPage() {
 void QtPrinter::BeginJob() {
   printer_->setFullPage(true);  // positions count from the corner of the paper
   painter_ = std::make_unique<QPainter>();
-  if (!painter_->begin(printer_.get())) Fail();
+  if (painter_->begin(printer_.get())) return;
+  const bool given_up = IsJobGivenUp();  // before anything else asks the system
+  if (!given_up) Fail();
+  Complete();
+  throw CancelWasSelected();
 }
 
 // Scales the painter to twips, and turns it where the printer's sheet lies the other way.

@@ -4,18 +4,12 @@
 #include <QFont>
 #include <QPainter>
 #include <QPrinter>
-#include <functional>
 #include <memory>
 
+#include "desktop/printer_choice.h"
 #include "printing/printer.h"
 
 namespace survey {
-
-// Chooses a printer, or a file to print to, for the jobs that follow; false after Cancel.
-using PrinterChoice = std::function<bool(QPrinter&)>;
-
-// Lets the user choose in the print dialog.
-bool AskForPrinter(QPrinter& printer);
 
 // Prints on what is chosen. Each job goes to a printer by itself; to a
 // PDF file all jobs since the choice go one after the other, for a file that each job wrote anew

@@ -16,8 +16,10 @@ constexpr const char* kSystemInformationViewers[] = {"msinfo32", "kinfocenter", 
 QtProgramFolder::QtProgramFolder(std::filesystem::path in_place) : in_place_(std::move(in_place)) {}
 
 std::filesystem::path QtProgramFolder::Path() const {
-  if (!in_place_.empty()) return in_place_;
-  return QCoreApplication::applicationDirPath().toStdU16String();
+  std::filesystem::path path = in_place_;
+  if (path.empty()) path = QCoreApplication::applicationDirPath().toStdU16String();
+  return path
+      .make_preferred();  // users see it, and the toolkit's separators are the same everywhere
 }
 
 bool QtProgramFolder::StartSystemInformation() {

@@ -18,6 +18,10 @@ constexpr char kDataFolder[] = "Data2012";
 // What the engine lays beside a database, named after it.
 constexpr const char* kCompanions[] = {"-journal", "-wal"};
 
+constexpr std::size_t kLongestName = 255;  // of a file, in bytes; some systems take fewer letters
+
+std::string Quoted(const fs::path& path) { return '"' + Utf8(path) + '"'; }
+
 void CopyFile(const fs::path& original, const fs::path& path) {
   constexpr std::size_t kBytesAtOnce = 1 << 16;
   std::ifstream source(original, std::ios::binary);
@@ -62,30 +66,35 @@ std::string DataFolder::PathOf(const std::string& name) const {
 
 Found DataFolder::Look(const std::string& name) const {
   if (name.find_first_of("/\\") != std::string::npos) return Found::kFailed;
+  if ((name + ".mdb" + kCompanions[0]).size() > kLongestName) return Found::kFailed;
   std::error_code error;
   const fs::file_status status = fs::symlink_status(ToPath(PathOf(name)), error);
   if (status.type() == fs::file_type::none) return Found::kFailed;
   if (status.type() != fs::file_type::not_found) return Found::kYes;
-  // One left without its database is removed; a name too long for it, or a folder, is in the way.
+  // One left without its database is removed; a folder is in the way.
   const fs::path journal = ToPath(PathOf(name) + kCompanions[0]);
   const fs::file_type left = fs::symlink_status(journal, error).type();
   if (left == fs::file_type::none) return Found::kFailed;
   return left == fs::file_type::directory ? Found::kYes : Found::kNo;
 }
 
-void DataFolder::CopyTemplate(const std::string& name) const {
+std::string DataFolder::CopyTemplate(const std::string& name) const {
   const fs::path original = program_folder_ / kTemplateFile;
   std::error_code error;
-  if (!fs::is_regular_file(original, error)) return;
+  if (!fs::is_regular_file(original, error)) return Quoted(original) + " is missing";
+  fs::create_directory(folder_, error);
+  if (error) return "the folder " + Quoted(folder_) + " cannot be made: " + error.message();
   for (const char* companion : kCompanions) {
-    fs::remove(ToPath(PathOf(name) + companion), error);
-    if (error) return;
+    const fs::path left = ToPath(PathOf(name) + companion);
+    fs::remove(left, error);
+    if (error) return Quoted(left) + " cannot be removed: " + error.message();
   }
   try {
     CopyFile(original, ToPath(PathOf(name)));
-  } catch (const RunTimeError&) {
-    // Whoever opens the database says that there is none.
+  } catch (const RunTimeError& failure) {
+    return failure.what();
   }
+  return {};
 }
 
 }  // namespace survey

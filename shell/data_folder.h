@@ -34,8 +34,8 @@ class DataFolder {
 
   // Copies the template to the database of that name, which appears when it is whole, for its
   // owner alone; the journal of one that lay there before goes. A copy that fails leaves nothing
-  // behind.
-  void CopyTemplate(const std::string& name) const;
+  // behind; answers why it failed, in words for the user, "" where it did not.
+  std::string CopyTemplate(const std::string& name) const;
 
  private:
   std::filesystem::path program_folder_;

@@ -1,6 +1,7 @@
 #include "shell/frmDatabase.h"
 
 #include "base/text.h"
+#include "shell/database_name.h"
 
 namespace survey {
 
@@ -17,8 +18,14 @@ Layout FrmDatabase::Arrange() {
 }
 
 bool FrmDatabase::ValidateDatabaseName() {
-  if (!Trim(txtDatabaseName.Text).empty()) return true;
-  boxes().PlainBox("Please enter a Database name.");
+  const std::string name = Trim(txtDatabaseName.Text);
+  if (name.empty()) {
+    boxes().PlainBox("Please enter a Database name.");
+  } else if (const std::string refusal = WhyNoName(name); !refusal.empty()) {
+    boxes().UserMessage(refusal);  // the name stays, to be put right
+  } else {
+    return true;
+  }
   SetFocus(txtDatabaseName);
   return false;
 }
@@ -34,8 +41,8 @@ void FrmDatabase::Ok() {
     SetFocus(txtDatabaseName);
     return;
   }
-  // A copy that fails is not told here: the next form cannot open the file, and says so.
-  data_folder_.CopyTemplate(name);
+  // A copy that fails is not told here: the next form cannot open the file, and says so and why.
+  survey().WhyNotMade = data_folder_.CopyTemplate(name);
   survey().DatabaseName = name;
   survey().DatabasePath = data_folder_.PathOf(name);
   host().Unload(*this);

@@ -49,7 +49,11 @@ void RemoveLeftFiles(const fs::path& folder) {
 NewFile::NewFile(fs::path path) : path_(std::move(path)) {
   RemoveLeftFiles(path_.parent_path());
   unfinished_ = path_.parent_path() / (kBeginning + std::to_string(std::random_device()()));
-  file_ = std::fopen(Utf8(unfinished_).c_str(), "wb");
+#ifdef _WIN32
+  file_ = _wfopen(unfinished_.c_str(), L"wb");
+#else
+  file_ = std::fopen(unfinished_.c_str(), "wb");
+#endif
   Require(file_ != nullptr);
   // A disk without owners, as most sticks are, has nothing to set.
   std::error_code ignored;

@@ -15,9 +15,10 @@ void Survey::OpenDatabaseConnection() {
     DatabaseConnection = OpenAside();
     DatabaseConnection->set_observer(observer_);
   } catch (const RunTimeError& error) {
-    if (report_error_) {
-      report_error_("modDatabaseConnection", error.what(), "Database Access Error", error.number());
-    }
+    if (!report_error_) return;
+    const std::string cause = WhyNotMade.empty() ? "" : ". It could not be made: " + WhyNotMade;
+    report_error_("modDatabaseConnection", error.what() + cause, "Database Access Error",
+                  error.number());
   }
 }
 

@@ -22,6 +22,7 @@ class Survey {
  public:
   std::string DatabasePath;        // full path of the working database
   std::string DatabaseName;        // its name without folder and ending, if listed or made new
+  std::string WhyNotMade;          // what has hindered a new database, told when it is not found
   std::string ChosenDatabaseName;  // the list entry last clicked, or the name typed for a new one
   std::unique_ptr<Connection> DatabaseConnection;  // none before the first opening
   double CollegeEmisNumber = 0;                    // 0 until a site is chosen

@@ -1,5 +1,6 @@
 #include "offscreen.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QtGlobal>
 
@@ -16,6 +17,7 @@ void TellMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
 
 void UseOffscreenPlatform() {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // nobody could answer these
   usual_handler = qInstallMessageHandler(TellMessage);
 }
 

@@ -8,6 +8,8 @@ bench_packages="libbenchmark-dev"
 test_packages="$bench_packages libgtest-dev libgmock-dev clang-format poppler-utils \
 $package_packages xvfb xdotool fakeroot desktop-file-utils at-spi2-core dbus \
 python3-gi gir1.2-atspi-2.0"
+windows_packages="g++-mingw-w64-x86-64-posix wine wine64 nsis tcl make icoutils unzip \
+dpkg-dev qt6-base-dev-tools googletest fonts-open-sans"
 
 install_missing() {
   local missing=() package

@@ -390,9 +390,11 @@ int main(int argc, char** argv) {
     std::cerr << "usage: tour OUTPUT_FOLDER [TEMPLATE]\n";
     return 2;
   }
+#ifndef Q_OS_WIN
   if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr) {
     survey::UseOffscreenPlatform();
   }
+#endif
   const QApplication application(argc, argv);
   survey::SetUpApplication();
   try {

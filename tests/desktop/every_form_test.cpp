@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractScrollArea>
 #include <map>
 #include <set>
 
@@ -86,6 +87,31 @@ TEST_F(EveryFormTest, TabReachesEveryControlAndScreenReadersFindANameForIt) {
     inspector_.WalkByTab();
     inspector_.Listen(Window());
   });
+}
+
+// Also run at 150 %, where a line may fall between two pixels.
+TEST_F(EveryFormTest, TheFrameOfAListIsClosed) {
+  desktop_->host().Start("frmSelectDatabase");
+  auto& list = user_->The<QAbstractScrollArea>("lstFiles");
+  for (const bool enabled : {false, true}) {
+    list.setEnabled(enabled);
+    const QImage image = Window().grab().toImage();
+    const qreal ratio = image.devicePixelRatio();
+    const QRect frame(list.mapTo(&Window(), QPoint()) * ratio, list.size() * ratio);
+    const QPoint middle = frame.center();
+    const auto has_line = [&](QPoint edge, QPoint inwards) {
+      const int ground = image.pixelColor(edge + 6 * inwards).lightness();
+      bool found = false;
+      for (int i = 0; i < 3; ++i) {
+        found |= image.pixelColor(edge + i * inwards).lightness() < ground - 15;
+      }
+      return found;
+    };
+    EXPECT_TRUE(has_line({frame.left(), middle.y()}, {1, 0})) << enabled;
+    EXPECT_TRUE(has_line({frame.right(), middle.y()}, {-1, 0})) << enabled;
+    EXPECT_TRUE(has_line({middle.x(), frame.top()}, {0, 1})) << enabled;
+    EXPECT_TRUE(has_line({middle.x(), frame.bottom()}, {0, -1})) << enabled;
+  }
 }
 
 QPalette DarkPalette() {

@@ -2,21 +2,26 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTimer>
-#include <csignal>
 
 #include "base/run_time_error.h"
 #include "desktop_driver.h"
 #include "grid/grid.h"
 #include "support/headless_program.h"
+
+#ifndef _WIN32
+#include <sys/resource.h>
+
+#include <csignal>
+#endif
 
 namespace survey::testing {
 namespace {
@@ -108,6 +113,7 @@ TEST_F(QtPrinterTest, SaysThatAFileCannotBeWrittenOrHasNotBecomeWhole) {
       std::exchange(file_, QString::fromStdString((folder_.path() / "none" / "x.pdf").string()));
   printer_.ShowPrinter("survey");
   EXPECT_THAT([this] { printer_.Print("lost"); }, fails());
+#ifndef _WIN32
   const auto expect_not_whole = [&] {
     printer_.ShowPrinter("survey");
     PrintJob("lost");
@@ -124,6 +130,8 @@ TEST_F(QtPrinterTest, SaysThatAFileCannotBeWrittenOrHasNotBecomeWhole) {
   setrlimit(RLIMIT_FSIZE, &small);
   expect_not_whole();
   setrlimit(RLIMIT_FSIZE, &limit);
+#endif
+  file_ = somewhere;
   printer_.ShowPrinter("survey");
   PrintJob("with room again");
   EXPECT_EQ(Sheets(), "595x842");
@@ -146,6 +154,33 @@ TEST_F(QtPrinterTest, TheDialogProposesTheNameOfTheJobAndCancelPrintsNothing) {
                 Throws<RunTimeError>(Property(&RunTimeError::number, 32755)));
     EXPECT_EQ(QFileInfo(proposed).fileName(), "North table 4.25 A-1.pdf");
   }
+}
+
+TEST_F(QtPrinterTest, AFileIsOfferedWhereThereIsNoPrinterAndTheDialogServesNone) {
+  const QString chosen = file_;
+  QString proposed;
+  bool accept = false;
+  QTimer answer;
+  QObject::connect(&answer, &QTimer::timeout, qApp, [&] {
+    if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+      proposed = dialog->selectedFiles().value(0);
+      dialog->selectFile(QString(chosen).chopped(4));  // the ending comes by itself
+      QDialog& answered = *dialog;
+      accept ? answered.accept() : answered.reject();
+    }
+  });
+  answer.start(20);
+  QtPrinter printer{AskForFile};
+  EXPECT_THAT([&] { printer.ShowPrinter("North table 2.5"); },
+              Throws<RunTimeError>(Property(&RunTimeError::number, 32755)));
+  EXPECT_EQ(QFileInfo(proposed).fileName(), "North table 2.5.pdf");
+  accept = true;
+  printer.ShowPrinter("North table 2.5");
+  printer.SetFont("Times New Roman", 12, true);
+  printer.Print("on paper later");
+  printer.EndDoc();
+  printer.Finish();
+  EXPECT_EQ(Sheets(), "595x842");
 }
 
 }  // namespace

@@ -1,15 +1,13 @@
 // A program that is killed while it saves: every page is found as it was, or as it was to be.
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <random>
 
-#include "faults/disk_faults.h"
+#include "support/another_program.h"
+#include "support/disk_faults.h"
 #include "support/filled_site.h"
 
 namespace survey::testing {
@@ -38,37 +36,18 @@ class KillTest : public ::testing::Test {
   // disk call or statement. Answers how many saves have begun and how many have ended.
   std::array<int, 2> SaveAndKill(const std::vector<std::string>& pages) {
     const bool at_disk_call = Roll(0, 2) > 0;
-    const int moment = at_disk_call ? Roll(1, 150) : Roll(1, 250);
-    std::array<int, 2> ends;
-    EXPECT_EQ(pipe(ends.data()), 0);
-    const pid_t program = fork();
-    if (program == 0) {
-      int statements = 0;
-      site_.survey.set_statement_observer([&](std::string_view) {
-        if (!at_disk_call && ++statements == moment) kill(getpid(), SIGKILL);
-      });
-      if (at_disk_call) KillSelfAtDiskCall(moment);
-      for (const std::string& page : pages) Save(page, ends[1]);
-      _exit(0);
+    std::vector<std::string> arguments = {"save", site_.survey.DatabasePath,
+                                          std::to_string(at_disk_call ? Roll(1, 150) : 0),
+                                          std::to_string(at_disk_call ? 0 : Roll(1, 250))};
+    for (const std::string& page : pages) {
+      arguments.insert(arguments.end(), {page, std::to_string(1 - saved_[page])});
     }
-    close(ends[1]);
+    AnotherProgram program(arguments);
     std::array<int, 2> count{};
-    for (char mark; read(ends[0], &mark, 1) == 1;) ++count[mark == 'e'];
-    close(ends[0]);
-    int status = 0;
-    waitpid(program, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status) ? WTERMSIG(status) == SIGKILL : WEXITSTATUS(status) == 0)
+    while (const char mark = program.Read()) ++count[mark == 'e'];
+    EXPECT_TRUE(program.Status() == kKilled || program.Status() == 0)
         << "it has crashed, or refused a save";
     return count;
-  }
-
-  void Save(const std::string& page, int marks) {
-    Form& form = site_.Open(page);
-    site_.Fill(form, 1 - saved_[page]);
-    if (write(marks, "b", 1) != 1) _exit(2);
-    site_.Click(page, "cmdSave");
-    if (!site_.dialogs.seen.empty() || write(marks, "e", 1) != 1) _exit(1);
-    site_.host.Unload(form);
   }
 
   int Roll(int low, int high) { return std::uniform_int_distribution(low, high)(dice_); }
@@ -117,7 +96,7 @@ TEST_F(KillTest, ADiskThatFillsUpLeavesAPageOldOrNewToo) {
     int writes = 0;
     for (bool saved = false; !saved; ++writes) {
       site_.Fill(site_.Open(page), 1);
-      FailWritesFrom(writes + 1, ENOSPC);
+      FillDiskAt(writes + 1);
       site_.Click(page, "cmdSave");
       EndDiskFaults();
       saved = site_.LastBox().empty();

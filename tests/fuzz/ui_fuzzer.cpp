@@ -126,7 +126,7 @@ class UiFuzzer {
     reader_.SaveAll(1);
     fs::copy_file(reader_.survey.DatabasePath, folder_.path() / "Data2012" / "Filled.mdb");
     // What a dialog may touch is the folder alone, and no program is found to be started.
-    qputenv("HOME", folder_.path().c_str());
+    qputenv("HOME", QByteArray::fromStdString(folder_.path().string()));
     qputenv("PATH", "");
     fs::current_path(folder_.path());
     QObject::connect(&watch_, &QTimer::timeout, &watch_, [this] { LookForDialog(); });

@@ -1,43 +1,31 @@
-#define SQLITE_HAS_CODEC 1
-#include <sqlite3.h>
-#include <sys/wait.h>
-
-#include <csignal>
-
 #include "store/store_fixture.h"
+#include "support/another_program.h"
+#include "support/disk_faults.h"
 
 namespace survey {
 namespace {
 
-using testing::ElementsAre;
+using testing::AnotherProgram;
+using ::testing::ElementsAre;
 
 constexpr const char* kCount = "select count(*) from tbl_StudentEnrolment";
 
 class GroupTest : public StoreTest {
  protected:
+  static std::string Enrolment(int quantity) {
+    return "Insert into tbl_StudentEnrolment(CollegeEmisNumber,CampusEmisnumber,ProgrammeTypeCD,"
+           "GenderCD,SurveyYear,Quantity)VALUES(10,11,1,2,2012," +
+           std::to_string(quantity) + ")";
+  }
   static void Enrol(Connection& connection, int quantity) {
-    connection.Execute(
-        "Insert into tbl_StudentEnrolment(CollegeEmisNumber,CampusEmisnumber,ProgrammeTypeCD,"
-        "GenderCD,SurveyYear,Quantity)VALUES(10,11,1,2,2012," +
-        std::to_string(quantity) + ")");
+    connection.Execute(Enrolment(quantity));
   }
 
-  // Another program that has done `work` on the database and then waits, until it is killed.
-  template <typename Work>
-  pid_t StartOtherProgram(Work work) {
-    int pipe_ends[2];
-    EXPECT_EQ(pipe(pipe_ends), 0);
-    const pid_t other = fork();
-    if (other == 0) {
-      const auto connection = Open();
-      work(*connection);
-      if (write(pipe_ends[1], "!", 1) != 1) _exit(1);
-      for (;;) pause();
-    }
-    char mark = 0;
-    EXPECT_EQ(read(pipe_ends[0], &mark, 1), 1);
-    close(pipe_ends[0]);
-    close(pipe_ends[1]);
+  // Another program that has run the statements and then waits, until it is killed.
+  AnotherProgram Other(std::vector<std::string> statements) {
+    statements.insert(statements.begin(), {"hold", path_});
+    AnotherProgram other(statements);
+    EXPECT_EQ(other.Read(), '!');
     return other;
   }
 
@@ -46,14 +34,9 @@ class GroupTest : public StoreTest {
     const std::string journal = ReadBytes(path_ + "-journal");
     const std::string now = ReadBytes(path_);
     WriteBytes(path_, bytes);
-    EXPECT_THAT(FailsWith(14, [&] { Open(); }), testing::HasSubstr("move that journal out"));
+    EXPECT_THAT(FailsWith(14, [&] { Open(); }), ::testing::HasSubstr("move that journal out"));
     EXPECT_TRUE(ReadBytes(path_) == bytes && ReadBytes(path_ + "-journal") == journal);
     WriteBytes(path_, now);
-  }
-
-  static void Kill(pid_t other) {
-    kill(other, SIGKILL);
-    waitpid(other, nullptr, 0);
   }
 };
 
@@ -114,15 +97,11 @@ TEST_F(GroupTest, AnotherProgramsLockIsWaitedForAndThenReported) {
 TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
   const auto size_before = std::filesystem::file_size(path_);
   const std::string before = ReadBytes(path_);
-  const pid_t other = StartOtherProgram([](Connection& theirs) {
-    Enrol(theirs, 1);
-    theirs.EndGroup();
-    theirs.Execute("Delete * from tbl_StudentEnrolment");
-    theirs.Execute(  // more than the engine keeps in memory, so that pages reach the file
-        "Insert into tbl_StaffTraining(CourseName) with recursive n(i) as (select 1 union all "
-        "select i + 1 from n where i < 5000) select hex(randomblob(500)) from n");
-  });
-  Kill(other);
+  Other({Enrolment(1), "commit", "Delete * from tbl_StudentEnrolment",
+         // more than the engine keeps in memory, so that pages reach the file
+         "Insert into tbl_StaffTraining(CourseName) with recursive n(i) as (select 1 union all "
+         "select i + 1 from n where i < 5000) select hex(randomblob(500)) from n"})
+      .Kill();
   ASSERT_GT(std::filesystem::file_size(path_), size_before * 2);
   ASSERT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
   ExpectNotPlayedInto(before);  // a copy of an hour ago, put back beside the journal
@@ -133,9 +112,9 @@ TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
   EXPECT_LT(std::filesystem::file_size(path_), size_before * 2);
 
   // One that has nothing to take back is kept as long as the other program lives.
-  const pid_t writing = StartOtherProgram([](Connection& theirs) { Enrol(theirs, 2); });
+  AnotherProgram writing = Other({Enrolment(2)});
   EXPECT_EQ(AnswerOfFile(kCount), "1");
-  Kill(writing);
+  writing.Kill();
   ASSERT_THAT(FilesInFolder(), ElementsAre("Site.mdb", "Site.mdb-journal"));
   EXPECT_EQ(AnswerOfFile(kCount), "1");
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
@@ -143,21 +122,15 @@ TEST_F(GroupTest, AKilledWriterLeavesTheLastCompleteState) {
 
 TEST_F(GroupTest, AJournalIsPlayedIntoNoOtherStateOfItsFile) {
   // The end of a save is that the journal is removed: whoever is killed right before it leaves it.
-  static std::string journal;
-  sqlite3_vfs* disk = sqlite3_vfs_find(nullptr);
-  const auto remove = disk->xGetSystemCall(disk, "unlink");
-  const auto keep_journal = [](const char* path) {
-    if (std::string_view(path).ends_with("-journal")) journal = ReadBytes(path);
-    return unlink(path);
-  };
+  std::string journal;
   std::string states[4];
   for (int i = 0; i < 4; ++i) {
-    if (i == 2) disk->xSetSystemCall(disk, "unlink", sqlite3_syscall_ptr(+keep_journal));
+    if (i == 2) testing::SeeRemovals([&](const std::string& path) { journal = ReadBytes(path); });
     const auto connection = Open();
     Enrol(*connection, i);
     connection->EndGroup();
     states[i] = ReadBytes(path_);
-    disk->xSetSystemCall(disk, "unlink", remove);
+    testing::EndDiskFaults();
   }
   MakeTemplate(SmallLists(), path_);
   const std::string foreign = ReadBytes(path_);

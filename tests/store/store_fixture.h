@@ -34,7 +34,7 @@ inline SurveyLists SmallLists() {
 }
 
 // A folder that is gone after the test, with a survey database in it.
-class StoreTest : public testing::Test {
+class StoreTest : public ::testing::Test {
  protected:
   StoreTest() {
     std::filesystem::create_directories(folder_);
@@ -61,8 +61,8 @@ class StoreTest : public testing::Test {
   }
 
   const std::filesystem::path folder_ =
-      std::filesystem::path(testing::TempDir()) / ("survey-store-" + std::to_string(getpid()));
-  const std::string path_ = folder_ / "Site.mdb";
+      std::filesystem::path(::testing::TempDir()) / ("survey-store-" + std::to_string(getpid()));
+  const std::string path_ = (folder_ / "Site.mdb").string();
   CipherKeys keys_;
 };
 

@@ -1,7 +1,6 @@
 #include "support/headless_program.h"
 
-#include <stdlib.h>
-
+#include <random>
 #include <system_error>
 
 #include "base/text.h"
@@ -15,9 +14,12 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path MakeTemporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "survey-test-").string() + std::string(6, 'X');
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  return name;
+  fs::path folder;
+  do {
+    folder = fs::temp_directory_path() / ("survey-test-" + std::to_string(std::random_device()()));
+  } while (!fs::create_directory(folder));
+  fs::permissions(folder, fs::perms::owner_all);
+  return folder;
 }
 
 std::string PlaceOf(const Grid& grid, double left, double top, double right, double bottom) {

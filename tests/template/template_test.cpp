@@ -37,8 +37,8 @@ TEST_F(TemplateTest, AppearsWholeOrNotAtAll) {
   WriteBytes(path_ + ".unfinished", "left by a program that was killed");
   MakeTemplate(SmallLists(), path_);
   EXPECT_NE(ReadBytes(path_), before);
-  FailsWith(14, [&] { MakeTemplate(SmallLists(), folder_); });
-  FailsWith(14, [&] { MakeTemplate(SmallLists(), folder_ / "none" / "x.mdb"); });
+  FailsWith(14, [&] { MakeTemplate(SmallLists(), folder_.string()); });
+  FailsWith(14, [&] { MakeTemplate(SmallLists(), (folder_ / "none" / "x.mdb").string()); });
   EXPECT_THAT(FilesInFolder(), ElementsAre("Site.mdb"));
 }
 
