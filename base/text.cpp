@@ -166,6 +166,15 @@ bool IsValidUtf8(std::string_view text) {
   return back == text;  // what is not valid was replaced on the way
 }
 
+std::string ToValidUtf8(std::string_view text) {
+  const bool readable_as_it_is = IsAscii(text) || IsValidUtf8(text);
+  if (readable_as_it_is && text.find('\0') == text.npos) return std::string(text);
+  icu::UnicodeString readable = FromUtf8(text);
+  readable.findAndReplace(icu::UnicodeString(char16_t{0}), icu::UnicodeString(char16_t{0xFFFD}));
+  std::string valid;
+  return readable.toUTF8String(valid);
+}
+
 bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
   return std::ranges::equal(left, right, {}, LowerLetter, LowerLetter);
 }

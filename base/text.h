@@ -56,6 +56,9 @@ bool IsAscii(std::string_view text);
 std::string Trim(std::string_view text);
 
 bool IsValidUtf8(std::string_view text);
+// The same text where it is valid and holds no zero byte; else with a replacement character for
+// what cannot be read.
+std::string ToValidUtf8(std::string_view text);
 
 // True when the two differ in the case of plain letters at most: names of tables and columns are
 // spelled in any case.

@@ -68,7 +68,7 @@ class SiteChecker {
     if (table.staff) return CheckStaffTable(table);
     if (table.form) return CheckForm(table);
     Grid grid(*table.design);
-    table.load(site_, grid);
+    LoadTable(table, site_, grid);
     const bool filled = HoldsAnswers(grid);
     if (!filled) AddEmpty(table, grid);
     for (const RequiredCell& required : table.required) CheckRequired(table, grid, required);

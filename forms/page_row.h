@@ -69,9 +69,9 @@ struct PageRow {
   std::vector<Link> links;
   PageErrors errors;
   MarkCleared mark;
-  std::vector<Reconciliation> totals = {};
   // What it keeps of the survey, in survey order.
   const std::vector<KeptTable>& (*kept)() = nullptr;
+  std::vector<Reconciliation> totals = {};
   PagePrint paper;
   bool in_campus_print = false;                // a sheet of the printed campus survey
   std::optional<StaffSheet> staff_print = {};  // what it adds to the print of a staff member

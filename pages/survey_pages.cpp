@@ -68,8 +68,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage2", "GetPage Routine"},
                   .save = {"frmPage2", "SavePage Routine"},
                   .print = {"frmPage2", "Print Routine"}},
-       .mark = kAfter,
-       .kept = FrmPage2::Kept,
+       .mark = kAfter, .kept = FrmPage2::Kept,
        .paper = {Head::kEmis, " General Information", {
            {"gridPage2_1", -1, 600, 1200}, {"gridGeneralInfo", -1, 600, 3500}}},
        .in_campus_print = true},
@@ -86,8 +85,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = kNone,
                   .save = kNone,
                   .print = {"frmPage2", "Print Routine"}},
-       .mark = kNever,
-       .kept = FrmHostels::Kept,
+       .mark = kNever, .kept = FrmHostels::Kept,
        .paper = {Head::kEmis, " Hostel and SETA Information", {
            {"gridhostels", -1, 600, 1200}, {"gridSETA", -1, 600, 3500}}},
        .in_campus_print = true},
@@ -105,8 +103,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage4", "GetPage Routine"},
                   .save = {"frmPage4", "SavePage Routine"},
                   .print = {"frmPage4", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmPage4::Kept,
+       .mark = kBefore, .kept = FrmPage4::Kept,
        .paper = {Head::kCampusEmis, " Staff Count Information ", {
            {"gridPage4_2", -1, 300, 3000}, {"gridLectureStaff", -1, 300, 8000}}},
        .in_campus_print = true},
@@ -123,8 +120,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmStudentTotal", "GetPage Routine"},
                   .save = {"frmStudentTotal", "SavePage Routine"},
                   .print = {"frmStudentTotal", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmStudentTotal::Kept,
+       .mark = kBefore, .kept = FrmStudentTotal::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information ", {
            {"gridEnrolment", -1, 300, 1200}, {"gridAgreements", -1, 300, 5000}}},
        .in_campus_print = true},
@@ -141,8 +137,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage3", "GetPage Routine"},
                   .save = {"frmPage3", "SavePage Routine"},
                   .print = {"frmPage3", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmPage3::Kept,
+       .mark = kBefore, .kept = FrmPage3::Kept,
        .paper = {Head::kCampusEmis, " Student Registration", {
            {"gridEnrolment", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -159,8 +154,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage3", "GetPage Routine"},
                   .save = {"frmPage5", "SavePage Routine"},
                   .print = {"frmPage5", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmPage5::Kept,
+       .mark = kBefore, .kept = FrmPage5::Kept,
        .paper = {Head::kCampusEmis, " Student Information", {
            {"gridFTE", 1, 300, 1200}, {"gridFTE", 2, 300, 3500},
            {"gridFTE", 0, 300, 7000}, {"gridReport191", 2, 300, 12000}}},
@@ -178,7 +172,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage3", "GetPage Routine"},
                   .save = {"frmPage6_1", "SavePage Routine"},
                   .print = {"frmPage6", "Print Routine"}},
-       .mark = kBefore,
+       .mark = kBefore, .kept = FrmPage6_1::Kept,
        .totals = {
            {"gridPage6_2", 1,
             {14, 10}, "txtN3", 4, "lblN3", "Control Total:Table 2.5.4:N4"},
@@ -186,7 +180,6 @@ const std::vector<PageRow>& SurveyPages() {
             {14, 10}, "txtN4", 5, "lblN4", "Control Total:Table 2.5.5:N5"},
            {"grid191", 0,
             {14, 10}, "txtN5", 6, "lblN5", "Control Total: Table 2.5.6: N6"}},
-       .kept = FrmPage6_1::Kept,
        .paper = {Head::kCampusEmis, " Student Information", {
            {"gridPage6_2", 1, 300, 1200}, {"gridPage6_2", 0, 300, 4500},
            {"grid191", 0, 300, 8000}}},
@@ -204,11 +197,10 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage8", "GetPage Routine"},
                   .save = {"frmPage5", "SavePage Routine"},
                   .print = {"frmPage8", "Print Routine"}},
-       .mark = kBefore,
+       .mark = kBefore, .kept = FrmPage8::Kept,
        .totals = {
            {"gridNCV", 1,
             {14, 23}, "txtL2", 9, "Label2", "Control Total: Table 2.5.9: Level 2"}},
-       .kept = FrmPage8::Kept,
        .paper = {Head::kCampusEmis, " Student Information", {
            {"gridNCV", 1, 300, 1200}}},
        .in_campus_print = true},
@@ -225,11 +217,10 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage8", "GetPage Routine"},
                   .save = {"frmPage5", "SavePage Routine"},
                   .print = {"frmPage9", "Print Routine"}},
-       .mark = kBefore,
+       .mark = kBefore, .kept = FrmPage9::Kept,
        .totals = {
            {"gridNCV", 1,
             {14, 23}, "txtL3", 10, "Label2", "Control Total: Table 2.5.10: Level 3"}},
-       .kept = FrmPage9::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridNCV", 1, 300, 1200}}},
        .in_campus_print = true},
@@ -246,12 +237,11 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage9_1", "GetPage Routine"},
                   .save = {"frmPage9_1", "SavePage Routine"},
                   .print = {"frmPage9", "Print Routine"}},
-       .mark = kBefore,
+       .mark = kBefore, .kept = FrmPage9_1::Kept,
        .totals = {
            // The row of "Transport and Logistics", not the grand total.
            {"gridPage8_2", 1,
             {14, 21}, "txtL4", 11, "Label2", "Control Total: Table 2.5.11: Level 4"}},
-       .kept = FrmPage9_1::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridPage8_2", 1, 300, 1200}}},
        .in_campus_print = true},
@@ -268,7 +258,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmOtherProgrammes", "Get Data Routine"},
                   .save = {"frmOtherProgrammes", "Save Data Routine"},
                   .print = {"frmPage12_1", "Print Routine"}},
-       .mark = kAfter,
+       .mark = kAfter, .kept = FrmOtherProgrammes::Kept,
        .totals = {
            {"gridlevel5", -1, {7, 9}, "txtL5", 12,
             "Label1", "Control Total: Table 2.5.10: Level 5 and higher Programmes"},
@@ -276,7 +266,6 @@ const std::vector<PageRow>& SurveyPages() {
             "Label2", "Control Total: Table 2.5.11: NSC"},
            {"gridAET", -1, {14, 8}, "txtAET", 15,
             "Label3", "Control Total: Table 2.5.13: Adult Education and Training"}},
-       .kept = FrmOtherProgrammes::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information", {
            {"gridlevel5", -1, 300, 1200}, {"gridNSC", -1, 300, 5200},
            {"gridAET", -1, 300, 9200}}}},
@@ -293,8 +282,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage12_1", "GetPage Routine"},
                   .save = {"frmPage12_1", "SavePage Routine"},
                   .print = {"frmPage12_1", "Print Routine"}},
-       .mark = kAfter,
-       .kept = FrmPage12_1::Kept,
+       .mark = kAfter, .kept = FrmPage12_1::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information", {
            {"gridPage12_2", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -311,11 +299,10 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = kNone,
                   .save = {"frmPage12_1", "SavePage Routine"},
                   .print = {"frmPage12_2", "Print Routine"}},
-       .mark = kBefore,
+       .mark = kBefore, .kept = FrmPage12_2::Kept,
        .totals = {
            {"gridPage12_1", 0,
             {14, 16}, "txtOC", 14, "Label3", "Control Total: Table 2.5.14"}},
-       .kept = FrmPage12_2::Kept,
        .paper = {Head::kCampusEmis, " Student Enrolment Information", {
            {"gridPage12_1", 0, 300, 1200}}},
        .in_campus_print = true},
@@ -332,8 +319,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage9_10", "GetPage Routine"},
                   .save = {"frmPage9_10", "SavePage Routine"},
                   .print = {"frmPage9_10", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmPage9_10::Kept,
+       .mark = kBefore, .kept = FrmPage9_10::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridPage9_1", -1, 300, 1200}}, true},
        .in_campus_print = true},
@@ -350,8 +336,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage9_10_1", "GetPage Routine"},
                   .save = {"frmPage9_10_1", "SavePage Routine"},
                   .print = {"frmPage9_10_1", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmPage9_10_1::Kept,
+       .mark = kBefore, .kept = FrmPage9_10_1::Kept,
        .paper = {Head::kCampusEmis, "  Student Information", {
            {"gridPage9_1", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -368,8 +353,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage9_10_1", "GetPage Routine"},
                   .save = {"frmPage14", "SavePage Routine"},
                   .print = {"frmPage14", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmPage14::Kept,
+       .mark = kBefore, .kept = FrmPage14::Kept,
        .paper = {Head::kCampusEmis, " Student SNE Information", {
            {"gridPage9_1", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -386,8 +370,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmPage13", "GetPage Routine"},
                   .save = {"frmPage14", "SavePage Routine"},
                   .print = {"frmPage13", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmPage13::Kept,
+       .mark = kBefore, .kept = FrmPage13::Kept,
        .paper = {Head::kCampusEmis, "Student Boarder Information", {
            {"gridPage13_1", -1, 300, 1200}}},
        .in_campus_print = true},
@@ -403,8 +386,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = kNone,
                   .save = kNone,
                   .print = {"frmEducatorData", "Print Routine"}},
-       .mark = kAfter,
-       .kept = FrmEducatorData::Kept,
+       .mark = kAfter, .kept = FrmEducatorData::Kept,
        .paper = {Head::kEmisAndStaff, " Personnel Details", {
            {"gridgeneral", -1, 300, 1200}, {"gridTraining", -1, 300, 8000}}},
        .staff_print = StaffSheet{.has_head = true,
@@ -423,8 +405,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = kNone,
                   .save = kNone,
                   .print = {"frmLecQualifications1", "Print Routine"}},
-       .mark = kAfter,
-       .kept = FrmLecQualifications1::Kept,
+       .mark = kAfter, .kept = FrmLecQualifications1::Kept,
        .paper = {Head::kStaffDetails, "", {
            {"gridQual", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -441,8 +422,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = kNone,
                   .save = kNone,
                   .print = {"frmLecQualifications2", "Print Routine"}},
-       .mark = kAfter,
-       .kept = FrmLecQualifications2::Kept,
+       .mark = kAfter, .kept = FrmLecQualifications2::Kept,
        .paper = {Head::kStaffDetails, "", {
            {"gridQual", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -461,8 +441,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmEducatorTeaching1", "Load Routine"},
                   .save = {"frmEducatrorTeaching1", "Save Routine"},
                   .print = {"frmEducatorData", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmEducatorTeaching1::Kept,
+       .mark = kBefore, .kept = FrmEducatorTeaching1::Kept,
        .paper = {Head::kCampusEmisAndStaff, " Lecturer Teaching Details", {
            {"gridSubjects", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -481,8 +460,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmEducatorTeaching", "Load Routine"},
                   .save = {"frmEducatrorTeaching", "Save Routine"},
                   .print = {"frmEducatorData", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmEducatorTeaching::Kept,
+       .mark = kBefore, .kept = FrmEducatorTeaching::Kept,
        .paper = {Head::kCampusEmisAndStaff, " Lecturer Teaching Details", {
            {"gridmonths", -1, 300, 1200}, {"gridSubjects", -1, 300, 3000}}},
        .staff_print = StaffSheet{.has_head = false,
@@ -501,8 +479,7 @@ const std::vector<PageRow>& SurveyPages() {
        .errors = {.activate = {"frmEducatorTeaching2", "GetPage Routine"},
                   .save = {"frmStaffQualification", "SavePage Routine"},
                   .print = {"frmEducatorTeaching2", "Print Routine"}},
-       .mark = kBefore,
-       .kept = FrmEducatorTeaching2::Kept,
+       .mark = kBefore, .kept = FrmEducatorTeaching2::Kept,
        .paper = {Head::kCampusEmisAndStaff, "  Lecturer Teaching Information", {
            {"gridFields", -1, 300, 1200}}},
        .staff_print = StaffSheet{.has_head = false,

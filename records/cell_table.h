@@ -23,6 +23,8 @@ struct Axis {
   std::vector<const char*> fields;           // of the record, one per code
   std::vector<CodePosition> positions = {};  // none: the one code is the index less `offset`
   int offset = 0;                            // without fields: the one index there is
+  // Where the meaning of each code is written: the column, for the codes of a row, or the row.
+  std::vector<int> labels = {};
 
   // The code `which` of the row or column `index`. Throws std::out_of_range where none stands.
   int CodeAt(int index, int which) const;

@@ -1,7 +1,11 @@
 #include "records/kept_table.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/text.h"
 #include "records/cell_table.h"
+#include "records/codes.h"
 
 namespace survey {
 
@@ -21,10 +25,21 @@ bool IsMissing(const Grid& grid, const RequiredCell& required) {
   return false;
 }
 
-std::function<void(const SiteRecords&, Grid&)> CellsOf(const CellTable& table,
-                                                       std::optional<int> code) {
-  return
-      [&table, code](const SiteRecords& site, Grid& grid) { LoadCells(site, table, grid, code); };
+void LoadTable(const KeptTable& table, const SiteRecords& site, Grid& grid) {
+  if (table.load) {
+    table.load(site, grid);
+  } else {
+    LoadCells(site, *table.cells, grid, table.code);
+  }
+}
+
+std::vector<Code> CodesOf(const KeptTable& table) {
+  std::vector<Code> codes;
+  if (table.codes != nullptr) codes = table.codes();
+  if (table.cells != nullptr) {
+    std::ranges::move(CodesOf(*table.cells, *table.design, table.code), std::back_inserter(codes));
+  }
+  return codes;
 }
 
 }  // namespace survey

@@ -15,6 +15,14 @@ namespace survey {
 
 struct CellTable;
 
+// What a number in a column of the store means.
+struct Code {
+  std::string table;
+  std::string column;
+  int code;
+  std::string meaning;
+};
+
 // When a compulsory cell counts as answered.
 enum class Need {
   kNotEmpty,
@@ -47,22 +55,28 @@ struct StaffRecords {
 };
 
 // A numbered table of the survey: its place on its page, and how what is stored of it comes back.
-// One of `load`, `form` and `staff` is there.
+// One of `cells`, `load`, `form` and `staff` says so.
 struct KeptTable {
   std::string_view number;  // "3.8"
   std::string_view grid;    // its control
   int index = -1;           // in the control array; -1 for none
   const GridDesign* design = nullptr;
-  // Writes what is stored into a clean grid, as the page does when it opens. Throws RunTimeError.
+  const CellTable* cells = nullptr;  // a record for each filled cell,
+  std::optional<int> code = {};      // with this code where several tables share the records
+  // Writes what is stored into a clean grid. Besides `cells` where their records come back in a way
+  // of their own. Throws RunTimeError.
   std::function<void(const SiteRecords& site, Grid& grid)> load = {};
   std::optional<RecordForm> form = {};
   std::optional<StaffRecords> staff = {};
   std::vector<RequiredCell> required = {};
+  std::vector<Code> (*codes)() = nullptr;  // of its columns, besides those of `cells`
 };
 
-// The `load` of a table that is kept cell by cell. The table must outlive it.
-std::function<void(const SiteRecords&, Grid&)> CellsOf(const CellTable& table,
-                                                       std::optional<int> code = {});
+// Writes what is stored into a clean grid, as the page does when it opens. Throws RunTimeError.
+void LoadTable(const KeptTable& table, const SiteRecords& site, Grid& grid);
+
+// The codes of all columns, those that the page passes last and without a meaning of their own.
+std::vector<Code> CodesOf(const KeptTable& table);
 
 }  // namespace survey
 

@@ -85,6 +85,14 @@ std::optional<std::uint32_t> SaveCount(std::string_view first_page, std::string_
   return count;
 }
 
+bool KeepsLog(std::string_view first_page, std::string_view raw_key) {
+  constexpr std::size_t kVersionsAt = 2;  // of the formats for writing and for reading
+  constexpr unsigned char kJournal = 1;
+  if (!SaveCount(first_page, raw_key)) return false;
+  const std::optional<Head> head = DecipheredHead(first_page, raw_key);
+  return head && ((*head)[kVersionsAt] != kJournal || (*head)[kVersionsAt + 1] != kJournal);
+}
+
 const std::string& CipherKeys::RawKey(std::string_view password, const Salt& salt) {
   if (raw_key_.empty() || salt != salt_ || password != password_) {
     raw_key_ = DerivedKey(password, salt);

@@ -32,6 +32,9 @@ class CipherKeys {
 // How many saves a file has seen, from its first page as it lies there. Nothing when this is no
 // whole first page under that key.
 std::optional<std::uint32_t> SaveCount(std::string_view first_page, std::string_view raw_key);
+// Whether the database keeps a write-ahead log beside it, which no survey database does. False when
+// this is no whole first page under that key.
+bool KeepsLog(std::string_view first_page, std::string_view raw_key);
 // Begins anew behind the largest number that a database can hold there.
 inline std::uint32_t NextSaveCount(std::uint32_t count) { return (count + 1) & 0x7fffffff; }
 

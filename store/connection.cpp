@@ -38,7 +38,14 @@ constexpr char kFileFormat[] = "PRAGMA cipher_default_compatibility = 3";
 // Engines of generation 4 have a log of their own, which begins with the first key of a program and
 // goes to standard error. What it tells our messages tell. Older ones pass over a pragma that they
 // do not know.
-constexpr char kNoLog[] = "PRAGMA cipher_log_source = NONE; PRAGMA cipher_log_level = NONE";
+constexpr char kNoLogging[] = "PRAGMA cipher_log_source = NONE; PRAGMA cipher_log_level = NONE";
+
+// For who reads a whole file: what is sorted stays in memory, and pages are deciphered once, as
+// long as they fit (KiB). The second looks into the table of contents.
+constexpr char kSortInMemory[] = "PRAGMA temp_store = MEMORY";
+constexpr char kManyPages[] = "PRAGMA cache_size = -32768";
+
+constexpr char kInUse[] = "is in use: another program is writing into it (database is locked)";
 
 // A folder in which no journal can be made. Engines of generation 3 answer it with SQLITE_CANTOPEN.
 constexpr int kReadOnlyFolder = SQLITE_READONLY | (6 << 8);
@@ -139,7 +146,7 @@ void RequireCipher(sqlite3* database) {
 }
 
 void Unlock(sqlite3* database, std::string_view key) {
-  Run(database, kNoLog);
+  Run(database, kNoLogging);
   Run(database, kFileFormat);
   if (sqlite3_key(database, key.data(), static_cast<int>(key.size())) != SQLITE_OK) {
     throw EngineError(database);
@@ -162,6 +169,14 @@ std::uint64_t SizeOf(sqlite3_file* file) {
   return static_cast<std::uint64_t>(size);
 }
 
+std::string FirstPage(sqlite3_file* file) {
+  std::string page(kPageBytes, '\0');
+  if (file->pMethods->xRead(file, page.data(), static_cast<int>(kPageBytes), 0) != SQLITE_OK) {
+    page.clear();
+  }
+  return page;
+}
+
 // A journal that belongs to another file, or to an older or newer state of this one, as where a
 // copy was put back, would be played into it at the first read and leave neither of the two.
 void RequireOwnJournal(sqlite3* database, const std::string& path, std::string_view raw_key) {
@@ -174,9 +189,8 @@ void RequireOwnJournal(sqlite3* database, const std::string& path, std::string_v
       is_being_written != 0) {
     return;
   }
-  std::string first_page(kPageBytes, '\0');
-  const int code = file->pMethods->xRead(file, first_page.data(), static_cast<int>(kPageBytes), 0);
-  if (code != SQLITE_OK ||
+  const std::string first_page = FirstPage(file);
+  if (first_page.empty() ||
       !IsJournalOfAnother(journal, {SizeOf(file) / kPageBytes, first_page, raw_key})) {
     return;
   }
@@ -186,6 +200,28 @@ void RequireOwnJournal(sqlite3* database, const std::string& path, std::string_v
                     "state of this one, and would spoil it. If you have put back a copy of the "
                     "database, move that journal out of the folder and open the database again; "
                     "if not, put back the file that lay here before");
+}
+
+// For who only reads. A database with a log would have one made beside it at the first read.
+void RequireNothingUnfinished(sqlite3* database, const std::string& path,
+                              std::string_view raw_key) {
+  std::error_code error;
+  sqlite3_file* file = FileOf(database);
+  for (const char* ending : {"-journal", "-wal"}) {
+    const std::string beside = path + ending;
+    if (!std::filesystem::exists(ToPath(beside), error)) continue;
+    int is_being_written = 0;
+    file->pMethods->xCheckReservedLock(file, &is_being_written);
+    if (is_being_written != 0) throw Refusal(SQLITE_BUSY, path, kInUse);
+    throw Refusal(SQLITE_CANTOPEN, path,
+                  "is not read: the file \"" + beside +
+                      "\" beside it belongs to a save that was not finished. Open the database "
+                      "once in the survey program, which takes that save back");
+  }
+  if (KeepsLog(FirstPage(file), raw_key)) {
+    throw Refusal(SQLITE_NOTADB, path,
+                  "is not a survey database: it keeps a log beside it, and is not opened");
+  }
 }
 
 // The first read of a file tests the password, and takes back what a killed program left undone.
@@ -207,6 +243,7 @@ void ReadFirst(sqlite3* database, const std::string& path) {
   if (code == SQLITE_CORRUPT || code == SQLITE_ERROR || (code == SQLITE_OK && !whole)) {
     throw Refusal(SQLITE_CORRUPT, path, "is damaged: a part of it is missing or was changed");
   }
+  if (code == SQLITE_BUSY) throw Refusal(code, path, kInUse);
   if (code != SQLITE_OK) {
     throw Refusal(code, path, std::string("cannot be read: ") + sqlite3_errmsg(database));
   }
@@ -263,6 +300,22 @@ std::unique_ptr<Connection> Connection::Open(const std::string& path, std::strin
   ReadFirst(database, path);
   RemoveLeftJournal(database, path);
   MakeDurable(database);
+  return opened;
+}
+
+std::unique_ptr<Connection> Connection::OpenToRead(const std::string& path,
+                                                   std::string_view password, CipherKeys& keys) {
+  RequireDatabaseFile(path);
+  const Salt salt = ReadSalt(path);
+  std::unique_ptr<Connection> opened(new Connection(OpenFile(path, SQLITE_OPEN_READONLY)));
+  sqlite3* database = opened->database_.get();
+  const std::string& raw_key = keys.RawKey(password, salt);
+  Unlock(database, raw_key);
+  RequireNothingUnfinished(database, path, raw_key);
+  Run(database, kSortInMemory);
+  Run(database, "BEGIN");  // the first read takes the lock of a reader, which then stays
+  ReadFirst(database, path);
+  Run(database, kManyPages);
   return opened;
 }
 

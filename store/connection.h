@@ -39,6 +39,13 @@ class Connection {
   static std::unique_ptr<Connection> Open(const std::string& path, std::string_view password,
                                           CipherKeys& keys);
 
+  // Opens a database of which nothing may change: it is read and never written to, nothing is made
+  // beside it, and no other program writes into it as long as the connection lives. Refuses what
+  // Open refuses, but for a file that cannot be written to; and a file beside which there is a
+  // journal, for only who may write can take back what that one is about.
+  static std::unique_ptr<Connection> OpenToRead(const std::string& path, std::string_view password,
+                                                CipherKeys& keys);
+
   // Makes a new, empty, encrypted database in the format that every reader of ours understands.
   // Throws when something stands at `path` already.
   static std::unique_ptr<Connection> Create(const std::string& path, std::string_view password);

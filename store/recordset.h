@@ -32,6 +32,9 @@ class Recordset {
   // the query does not give, 3021 when there is no row.
   const Value& Field(std::string_view name) const;
 
+  // All rows at once, whichever is in front, their fields in the order of the query.
+  const std::vector<std::vector<Value>>& Rows() const { return rows_; }
+
  private:
   static std::vector<std::vector<Value>> AllRows(Connection& connection, sqlite3_stmt* query);
 

@@ -15,6 +15,8 @@ class Value {
 
   bool IsNull() const { return std::holds_alternative<std::monostate>(content_); }
 
+  bool IsNumber() const { return std::holds_alternative<double>(content_); }
+
   // True for null and for the empty text.
   bool IsEmpty() const;
 

@@ -176,6 +176,14 @@ Recordset ReadHostels(const SiteRecords& site) {
 
 void ShowStored(const Recordset& hostel, Grid& grid) { ShowEachAnswer(hostel, kAnswers, grid); }
 
+std::vector<Code> SetaCodes() {
+  std::vector<Code> codes;
+  for (const Seta& seta : kSetas) {
+    codes.push_back({"tbl_SETAAccreditation", "SETAID", seta.id, seta.name});
+  }
+  return codes;
+}
+
 // Ticks only: a box that the user has ticked stays ticked.
 void ShowSetas(const SiteRecords& site, Grid& grid) {
   Recordset stored;
@@ -199,7 +207,12 @@ const std::vector<KeptTable>& FrmHostels::Kept() {
        .design = &HostelDesign(),
        .form = RecordForm{ReadHostels, ShowStored},
        .required = {{kName}}},
-      {"1.16", "gridSETA", -1, &SetaDesign(), ShowSetas},
+      {.number = "1.16",
+       .grid = "gridSETA",
+       .index = -1,
+       .design = &SetaDesign(),
+       .load = ShowSetas,
+       .codes = SetaCodes},
   };
   return tables;
 }

@@ -1,6 +1,10 @@
 #include "pages/institution/frmPage2.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/text.h"
+#include "records/codes.h"
 #include "records/record_cells.h"
 
 namespace survey {
@@ -237,6 +241,15 @@ Recordset ReadSite(const SiteRecords& site) {
   return stored;
 }
 
+std::vector<Code> Codes() {
+  constexpr char kTable[] = "tbl_GeneralInformation";
+  static constexpr Answer kOfIdentity[] = {{"SiteType", {11, 3}, kNumber},
+                                           {"ProvinceCD", {12, 6}, kNumber}};
+  std::vector<Code> codes = CodesOf(kTable, kOfIdentity, IdentityDesign());
+  std::ranges::move(CodesOf(kTable, kAnswers, QuestionsDesign()), std::back_inserter(codes));
+  return codes;
+}
+
 void ShowQuestions(const SiteRecords& site, Grid& grid) {
   const Recordset stored = ReadSite(site);
   if (!stored.Eof()) ShowEachAnswer(stored, kAnswers, grid);
@@ -250,7 +263,8 @@ const std::vector<KeptTable>& FrmPage2::Kept() {
        .grid = "gridGeneralInfo",
        .design = &QuestionsDesign(),
        .load = ShowQuestions,
-       .required = kCompulsory},
+       .required = kCompulsory,
+       .codes = Codes},
   };
   return tables;
 }

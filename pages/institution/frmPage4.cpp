@@ -108,6 +108,7 @@ const CellTable& StaffCount() {
               {6, {2, 1}},  {7, {2, 2}},
               {8, {3, 1}},  {9, {3, 2}},
           },
+          .labels = {2, 3},
       },
       .columns = {
           .fields = {"remunerationCD", "DurationCD", "appointmentnaturecd"},
@@ -115,6 +116,7 @@ const CellTable& StaffCount() {
               {4, {1, 1, 1}},   {5, {1, 1, 2}},   {6, {1, 2, 1}},   {7, {1, 2, 2}},
               {8, {2, 1, 1}},   {9, {2, 1, 2}},   {10, {2, 2, 1}},  {11, {2, 2, 2}},
           },
+          .labels = {1, 2, 3},
       },
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -132,10 +134,11 @@ const CellTable& LectureStaff() {
       .insert = "Insert into tbl_LectureStaff",
       .body = {3, 3, 6, 6},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"degreetypecd"}, .offset = 2},
+      .rows = {.fields = {"degreetypecd"}, .offset = 2, .labels = {2}},
       .columns = {
           .fields = {"remunerationCD", "genderCd"},
           .positions = {{3, {1, 1}}, {4, {1, 2}}, {5, {2, 1}}, {6, {2, 2}}},
+          .labels = {1, 2},
       },
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -150,8 +153,8 @@ const CellTable& LectureStaff() {
 
 const std::vector<KeptTable>& FrmPage4::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"2.1", "gridPage4_2", -1, &StaffDesign(), CellsOf(StaffCount())},
-      {"2.2", "gridLectureStaff", -1, &DegreeDesign(), CellsOf(LectureStaff())},
+      {"2.1", "gridPage4_2", -1, &StaffDesign(), &StaffCount()},
+      {"2.2", "gridLectureStaff", -1, &DegreeDesign(), &LectureStaff()},
   };
   return tables;
 }

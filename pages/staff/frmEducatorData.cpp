@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "grid/cell_entry.h"
+#include "records/codes.h"
 #include "records/record_cells.h"
 #include "store/dialect.h"
 
@@ -226,6 +227,8 @@ Recordset ReadMembers(const SiteRecords& site) {
   return members;
 }
 
+std::vector<Code> Codes() { return CodesOf("tbl_StaffDetail", kAnswers, GeneralDesign()); }
+
 void ShowStored(const Recordset& member, Grid& grid) {
   ShowFields(member, {{"IDNumber", kIdNumber}}, grid);
   ShowMember(member, grid);
@@ -242,7 +245,8 @@ const std::vector<KeptTable>& FrmEducatorData::Kept() {
          .grid = "gridgeneral",
          .design = &GeneralDesign(),
          .form = RecordForm{ReadMembers, ShowStored, "IDNumber"},
-         .required = required},
+         .required = required,
+         .codes = Codes},
         {.number = "4.24",
          .grid = "gridTraining",
          .design = &TrainingDesign(),

@@ -1,6 +1,7 @@
 #include "pages/staff/frmEducatorTeaching.h"
 
 #include "base/text.h"
+#include "records/codes.h"
 #include "store/recordset.h"
 
 namespace survey {
@@ -90,6 +91,15 @@ const SubjectList& TeachingSubjects() {
 }
 // clang-format on
 
+std::vector<Code> Months() {
+  std::vector<Code> codes;
+  for (int column = kJanuary; column <= kDecember; ++column) {
+    codes.push_back({"tbl_LecturerContactMonth", "MonthCD", column - kColumnsBeforeMonths,
+                     LabelOf(MonthsDesign(), {column, kTickRow - 1})});
+  }
+  return codes;
+}
+
 }  // namespace
 
 const std::vector<KeptTable>& FrmEducatorTeaching::Kept() {
@@ -97,11 +107,12 @@ const std::vector<KeptTable>& FrmEducatorTeaching::Kept() {
       {.number = "4.29",
        .grid = "gridmonths",
        .design = &MonthsDesign(),
-       .staff = StaffRecords{"tbl_LecturerContactMonth"}},
+       .staff = StaffRecords{"tbl_LecturerContactMonth"},
+       .codes = Months},
       {.number = "4.30",
        .grid = "gridSubjects",
        .design = &TeachingSubjects().design,
-       .staff = StaffRecords{"tbl_LecturerTeachingSubject"}},
+       .staff = StaffRecords{"tbl_LecturerTeachingSubject", kOfTheCatalogue}},
   };
   return tables;
 }

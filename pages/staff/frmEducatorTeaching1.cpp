@@ -67,7 +67,7 @@ const std::vector<KeptTable>& FrmEducatorTeaching1::Kept() {
       {.number = "4.28",
        .grid = "gridSubjects",
        .design = &QualificationSubjects().design,
-       .staff = StaffRecords{"tbl_LecturerQualificationSubject"}},
+       .staff = StaffRecords{"tbl_LecturerQualificationSubject", kOfTheCatalogue}},
   };
   return tables;
 }

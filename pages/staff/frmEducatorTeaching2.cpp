@@ -1,6 +1,7 @@
 #include "pages/staff/frmEducatorTeaching2.h"
 
 #include "base/text.h"
+#include "records/codes.h"
 #include "records/record_cells.h"
 
 namespace survey {
@@ -100,6 +101,20 @@ void ShowFigures(const Recordset& field, int row, Grid& grid) {
              grid);
 }
 
+std::vector<Code> Fields() {
+  constexpr int kNameColumn = 3;
+  const auto code = [](int number, int row) {
+    return Code{"tbl_LecturerTeachingFields", "OrganisingFieldCD", number,
+                LabelOf(FieldsDesign(), {kNameColumn, row})};
+  };
+  std::vector<Code> codes;
+  for (int row = kFirstField; row <= kLastField; ++row) {
+    codes.push_back(code(row - kRowsAboveFields, row));
+  }
+  codes.push_back(code(kOtherCoursesCode, kLastField + 1));
+  return codes;
+}
+
 }  // namespace
 
 const std::vector<KeptTable>& FrmEducatorTeaching2::Kept() {
@@ -107,7 +122,8 @@ const std::vector<KeptTable>& FrmEducatorTeaching2::Kept() {
       {.number = "4.31 - 4.32",
        .grid = "gridFields",
        .design = &FieldsDesign(),
-       .staff = StaffRecords{"tbl_LecturerTeachingFields", "", true}},
+       .staff = StaffRecords{"tbl_LecturerTeachingFields", "", true},
+       .codes = Fields},
   };
   return tables;
 }

@@ -68,6 +68,8 @@ const QualificationList& FirstHalf() {
 }
 // clang-format on
 
+std::vector<Code> Codes() { return CodesOf(FirstHalf()); }
+
 }  // namespace
 
 const std::vector<KeptTable>& FrmLecQualifications1::Kept() {
@@ -75,7 +77,8 @@ const std::vector<KeptTable>& FrmLecQualifications1::Kept() {
       {.number = "4.25",
        .grid = "gridQual",
        .design = &FirstHalf().design,
-       .staff = StaffRecords{"tbl_StaffQualificationType", " and QualificationTypeCD < 30", true}},
+       .staff = StaffRecords{"tbl_StaffQualificationType", " and QualificationTypeCD < 30", true},
+       .codes = Codes},
   };
   return tables;
 }

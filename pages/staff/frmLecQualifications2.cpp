@@ -1,6 +1,10 @@
 #include "pages/staff/frmLecQualifications2.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/text.h"
+#include "records/codes.h"
 #include "records/record_cells.h"
 #include "store/dialect.h"
 
@@ -66,6 +70,14 @@ const QualificationList& SecondHalf() {
 }
 // clang-format on
 
+std::vector<Code> Codes() {
+  static constexpr Answer kAnswers[] = {{"WorkplaceExperience", kExperience, CellAs::kNumber}};
+  std::vector<Code> codes = CodesOf(SecondHalf());
+  std::ranges::move(CodesOf("tbl_StaffQualificationType", kAnswers, SecondHalf().design),
+                    std::back_inserter(codes));
+  return codes;
+}
+
 }  // namespace
 
 const std::vector<KeptTable>& FrmLecQualifications2::Kept() {
@@ -73,7 +85,8 @@ const std::vector<KeptTable>& FrmLecQualifications2::Kept() {
       {.number = "4.25 - 4.27",
        .grid = "gridQual",
        .design = &SecondHalf().design,
-       .staff = StaffRecords{"tbl_StaffQualificationType", " and QualificationTypeCD > 29", true}},
+       .staff = StaffRecords{"tbl_StaffQualificationType", " and QualificationTypeCD > 29", true},
+       .codes = Codes},
   };
   return tables;
 }

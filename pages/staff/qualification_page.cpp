@@ -22,6 +22,15 @@ QualificationList WithRows(QualificationList list) {
   return list;
 }
 
+std::vector<Code> CodesOf(const QualificationList& list) {
+  std::vector<Code> codes;
+  for (const Qualification& qualification : list.rows) {
+    codes.push_back({"tbl_StaffQualificationType", "QualificationTypeCD", qualification.code,
+                     Trim(qualification.name)});
+  }
+  return codes;
+}
+
 QualificationPage::QualificationPage(FormHost& host, const PageRow& page,
                                      const PageButtons& buttons, const QualificationList& list)
     : StaffPage(host, page, buttons), gridQual(*this, "gridQual", list.design), list_(list) {

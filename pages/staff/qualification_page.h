@@ -27,6 +27,9 @@ struct QualificationList {
 // `list` with its rows in the design: code, name and the box to tick.
 QualificationList WithRows(QualificationList list);
 
+// The codes of its rows.
+std::vector<Code> CodesOf(const QualificationList& list);
+
 // What is stored with each ticked qualification. Texts are ready to stand between quotes.
 struct QualificationDetails {
   std::string trade;

@@ -34,6 +34,10 @@ struct SubjectList {
   ErrorName printing_routine;  // what a failure of Printpage is reported under
 };
 
+// For StaffRecords: of the lines that come back.
+inline constexpr char kOfTheCatalogue[] =
+    " and SubjectCode in (select SubjectCode from lst_Subject)";
+
 // `list` with the numbers of its 15 lines in the design.
 SubjectList WithLines(SubjectList list);
 

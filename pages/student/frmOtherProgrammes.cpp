@@ -149,7 +149,7 @@ const CellTable& Nsc() {
       .insert = "Insert into tbl_StudentPopulationGroupNSC",
       .body = {4, 4, 13, 6},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"Grade"}, .offset = kCodeOfRow},
+      .rows = {.fields = {"Grade"}, .offset = kCodeOfRow, .labels = {3}},
       .columns = PopulationColumns(),
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus}, {"Grade", RowCode()},
@@ -166,7 +166,7 @@ const CellTable& Aet() {
       .insert = "Insert into tbl_StudentPopulationGroupAET",
       .body = {4, 4, 13, 7},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"AETLevel"}, .offset = kCodeOfRow},
+      .rows = {.fields = {"AETLevel"}, .offset = kCodeOfRow, .labels = {3}},
       .columns = PopulationColumns(),
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -197,9 +197,13 @@ void ShowProgrammes(const SiteRecords& site, Grid& grid) {
 
 const std::vector<KeptTable>& FrmOtherProgrammes::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.11", "gridlevel5", -1, &Level5Design(), ShowProgrammes},
-      {"3.12", "gridNSC", -1, &NscDesign(), CellsOf(Nsc())},
-      {"3.13", "gridAET", -1, &AetDesign(), CellsOf(Aet())},
+      {.number = "3.11",
+       .grid = "gridlevel5",
+       .index = -1,
+       .design = &Level5Design(),
+       .load = ShowProgrammes},
+      {"3.12", "gridNSC", -1, &NscDesign(), &Nsc()},
+      {"3.13", "gridAET", -1, &AetDesign(), &Aet()},
   };
   return tables;
 }

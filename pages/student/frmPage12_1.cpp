@@ -148,7 +148,11 @@ void ShowLines(const SiteRecords& site, Grid& grid) {
 
 const std::vector<KeptTable>& FrmPage12_1::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.14", "gridPage12_2", -1, &EnrolmentDesign(), ShowLines},
+      {.number = "3.14",
+       .grid = "gridPage12_2",
+       .index = -1,
+       .design = &EnrolmentDesign(),
+       .load = ShowLines},
   };
   return tables;
 }

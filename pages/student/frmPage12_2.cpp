@@ -62,7 +62,7 @@ const CellTable& Occupational() {
       .insert = "Insert into tbl_StudentPopulationGroupOcc",
       .body = {4, 4, 13, 15},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"OrganisingFieldCD"}, .offset = 3},
+      .rows = {.fields = {"OrganisingFieldCD"}, .offset = 3, .labels = {3}},
       .columns = PopulationColumns(),
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -77,7 +77,7 @@ const CellTable& Occupational() {
 
 const std::vector<KeptTable>& FrmPage12_2::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.15", "gridPage12_1", 0, &OccupationalDesign(), CellsOf(Occupational())},
+      {"3.15", "gridPage12_1", 0, &OccupationalDesign(), &Occupational()},
   };
   return tables;
 }

@@ -1,7 +1,7 @@
 #include "pages/student/frmPage13.h"
 
 #include "base/text.h"
-#include "records/cell_table.h"
+#include "records/codes.h"
 #include "store/dialect.h"
 #include "store/recordset.h"
 
@@ -72,6 +72,15 @@ const GridDesign& BoardersDesign() {
 }
 // clang-format on
 
+std::vector<Code> Provinces() {
+  std::vector<Code> codes;
+  for (int row = kFirstProvince; row <= kLastProvince; ++row) {
+    codes.push_back({"tbl_StudentBoarders", "ProvinceCD", row - kProvinceOffset,
+                     LabelOf(BoardersDesign(), {1, row})});
+  }
+  return codes;
+}
+
 void ShowBoarders(const SiteRecords& site, Grid& grid) {
   Recordset records;
   records.Open(
@@ -98,7 +107,12 @@ void ShowBoarders(const SiteRecords& site, Grid& grid) {
 
 const std::vector<KeptTable>& FrmPage13::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.19", "gridPage13_1", -1, &BoardersDesign(), ShowBoarders},
+      {.number = "3.19",
+       .grid = "gridPage13_1",
+       .index = -1,
+       .design = &BoardersDesign(),
+       .load = ShowBoarders,
+       .codes = Provinces},
   };
   return tables;
 }

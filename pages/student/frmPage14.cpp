@@ -85,7 +85,7 @@ const CellTable& SpecialNeeds() {
       .insert = "Insert into tbl_SNEStudentEnrolment",
       .body = {2, 4, 11, 19},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"disabilityCD"}, .offset = 3},
+      .rows = {.fields = {"disabilityCD"}, .offset = 3, .labels = {1}},
       .columns = {
           .fields = {"programmetypecd", "gendercd"},
           .positions = {
@@ -95,6 +95,7 @@ const CellTable& SpecialNeeds() {
               {8, {3, 1}},   {9, {3, 2}},   // occupational
               {10, {5, 1}},  {11, {5, 2}},  // other
           },
+          .labels = {2, 3},
       },
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -110,7 +111,7 @@ const CellTable& SpecialNeeds() {
 
 const std::vector<KeptTable>& FrmPage14::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.18", "gridPage9_1", -1, &SpecialNeedsDesign(), CellsOf(SpecialNeeds())},
+      {"3.18", "gridPage9_1", -1, &SpecialNeedsDesign(), &SpecialNeeds()},
   };
   return tables;
 }

@@ -88,8 +88,9 @@ const CellTable& Registration() {
               {23, {13, 1}},  {24, {13, 2}},  {25, {14, 1}},  {26, {14, 2}},
               {27, {15, 1}},  {28, {15, 2}},  {29, {16, 1}},  {30, {16, 2}},
           },
+          .labels = {2, 3},
       },
-      .columns = {.fields = {"programmedurationtypeCD"}, .offset = 3},
+      .columns = {.fields = {"programmedurationtypeCD"}, .offset = 3, .labels = {2}},
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
           {"ProgrammeRegistrationTypeCD", RowCode(0)}, {"ProgrammeDurationTypeCD", ColumnCode()},
@@ -103,7 +104,7 @@ const CellTable& Registration() {
 
 const std::vector<KeptTable>& FrmPage3::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"2.5", "gridEnrolment", -1, &EnrolmentDesign(), CellsOf(Registration())},
+      {"2.5", "gridEnrolment", -1, &EnrolmentDesign(), &Registration()},
   };
   return tables;
 }

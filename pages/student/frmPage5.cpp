@@ -184,12 +184,12 @@ struct FteTable {
 // of N1 to N3 is one row, and stored as field 5, engineering.
 const std::vector<FteTable>& FteTables() {
   static const std::vector<FteTable> tables = {
-      {0, 4, 6, FteCells({4, 3, 6, 8}, {.fields = {"VocationalFieldFTECD"}, .offset = 2},
-                         {.fields = {"programmeregistrationtypeCD"}, .offset = 0}, RowCode())},
+      {0, 4, 6, FteCells({4, 3, 6, 8}, {.fields = {"VocationalFieldFTECD"}, .offset = 2, .labels = {3}},
+                         {.fields = {"programmeregistrationtypeCD"}, .offset = 0, .labels = {2}}, RowCode())},
       {2, 1, 3, FteCells({4, 3, 6, 3}, {.fields = {}, .offset = 3},
-                         {.fields = {"programmeregistrationtypeCD"}, .offset = 3}, Constant(5))},
-      {1, 9, 11, FteCells({4, 3, 6, 5}, {.fields = {"VocationalFieldFTECD"}, .offset = -4},
-                          {.fields = {"programmeregistrationtypeCD"}, .offset = -5}, RowCode())},
+                         {.fields = {"programmeregistrationtypeCD"}, .offset = 3, .labels = {2}}, Constant(5))},
+      {1, 9, 11, FteCells({4, 3, 6, 5}, {.fields = {"VocationalFieldFTECD"}, .offset = -4, .labels = {3}},
+                          {.fields = {"programmeregistrationtypeCD"}, .offset = -5, .labels = {2}}, RowCode())},
   };
   return tables;
 }
@@ -206,6 +206,7 @@ const CellTable& Report191() {
       .rows = {
           .fields = {"programmeregistrationtypeCD"},
           .positions = {{4, {1}}, {5, {2}}, {6, {3}}},
+          .labels = {3},
       },
       .columns = PopulationColumns(),
       .values = {
@@ -270,10 +271,30 @@ void ShowReport191(const SiteRecords& site, Grid& grid) {
 
 const std::vector<KeptTable>& FrmPage5::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.1", "gridFTE", 1, &NcvFteDesign(), FteOf(1)},
-      {"3.2", "gridFTE", 2, &N1ToN3FteDesign(), FteOf(2)},
-      {"3.3", "gridFTE", 0, &N4ToN6FteDesign(), FteOf(0)},
-      {"3.4", "gridReport191", 2, &Report191Design(), ShowReport191},
+      {.number = "3.1",
+       .grid = "gridFTE",
+       .index = 1,
+       .design = &NcvFteDesign(),
+       .cells = &FteTables()[2].cells,
+       .load = FteOf(1)},
+      {.number = "3.2",
+       .grid = "gridFTE",
+       .index = 2,
+       .design = &N1ToN3FteDesign(),
+       .cells = &FteTables()[1].cells,
+       .load = FteOf(2)},
+      {.number = "3.3",
+       .grid = "gridFTE",
+       .index = 0,
+       .design = &N4ToN6FteDesign(),
+       .cells = &FteTables()[0].cells,
+       .load = FteOf(0)},
+      {.number = "3.4",
+       .grid = "gridReport191",
+       .index = 2,
+       .design = &Report191Design(),
+       .cells = &Report191(),
+       .load = ShowReport191},
   };
   return tables;
 }

@@ -74,7 +74,7 @@ const CellTable& Headcount() {
       .insert = "Insert into tbl_StudentPopulationGroup191",
       .body = {4, 4, 13, 9},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"VocationalField191CD"}, .offset = 3},
+      .rows = {.fields = {"VocationalField191CD"}, .offset = 3, .labels = {3}},
       .columns = PopulationColumns(),
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -92,9 +92,9 @@ const CellTable& Headcount() {
 
 const std::vector<KeptTable>& FrmPage6_1::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.5", "gridPage6_2", 1, &N4Design(), CellsOf(Headcount(), 4)},
-      {"3.6", "gridPage6_2", 0, &N5Design(), CellsOf(Headcount(), 5)},
-      {"3.7", "grid191", 0, &N6Design(), CellsOf(Headcount(), 6)},
+      {"3.5", "gridPage6_2", 1, &N4Design(), &Headcount(), 4},
+      {"3.6", "gridPage6_2", 0, &N5Design(), &Headcount(), 5},
+      {"3.7", "grid191", 0, &N6Design(), &Headcount(), 6},
   };
   return tables;
 }

@@ -85,8 +85,8 @@ const CellTable& AgeRecords() {
       .insert = "Insert into tbl_StudentAgeLevel2",
       .body = {2, 3, 20, 28},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"age"}, .offset = -12},
-      .columns = {.fields = {"programmeNCVCD"}, .offset = 1},
+      .rows = {.fields = {"age"}, .offset = -12, .labels = {22}},
+      .columns = {.fields = {"programmeNCVCD"}, .offset = 1, .labels = {2}},
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
           {"ProgrammeNCVCD", ColumnCode()}, {"Age", RowCode()}, {"SurveyYear", kYear},
@@ -100,7 +100,7 @@ const CellTable& AgeRecords() {
 
 const std::vector<KeptTable>& FrmPage9_10::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.16", "gridPage9_1", -1, &AgeDesign(), CellsOf(AgeRecords())},
+      {"3.16", "gridPage9_1", -1, &AgeDesign(), &AgeRecords()},
   };
   return tables;
 }

@@ -75,7 +75,7 @@ const CellTable& AgeRecords() {
       .insert = "Insert into tbl_StudentAgeEnrolment",
       .body = {2, 4, 13, 29},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"age"}, .offset = -11},
+      .rows = {.fields = {"age"}, .offset = -11, .labels = {16}},
       .columns = {
           .fields = {"programmetypecd", "gendercd"},
           .positions = {  // the code 1, all of Report 191, is split in two here
@@ -86,6 +86,7 @@ const CellTable& AgeRecords() {
               {10, {3, 1}},  {11, {3, 2}},    // occupational
               {12, {5, 1}},  {13, {5, 2}},    // other
           },
+          .labels = {2, 3},
       },
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -100,7 +101,7 @@ const CellTable& AgeRecords() {
 
 const std::vector<KeptTable>& FrmPage9_10_1::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"3.17", "gridPage9_1", -1, &AgeDesign(), CellsOf(AgeRecords())},
+      {"3.17", "gridPage9_1", -1, &AgeDesign(), &AgeRecords()},
   };
   return tables;
 }

@@ -111,6 +111,7 @@ const CellTable& Enrolment() {
               {9, {3, 1}},   {10, {3, 2}},
               {11, {5, 1}},  {12, {5, 2}},
           },
+          .labels = {2, 3},
       },
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -127,7 +128,7 @@ const CellTable& Agreements() {
       .insert = "Insert into tbl_StudentAgreements",
       .body = {3, 4, 10, 6},
       .walk = Walk::kRowByRow,
-      .rows = {.fields = {"agreementtypecd"}, .offset = 3},
+      .rows = {.fields = {"agreementtypecd"}, .offset = 3, .labels = {2}},
       .columns = {
           .fields = {"programmetypeCD", "genderCd"},
           .positions = {  // no NSC
@@ -136,6 +137,7 @@ const CellTable& Agreements() {
               {7, {3, 1}},  {8, {3, 2}},
               {9, {5, 1}},  {10, {5, 2}},
           },
+          .labels = {2, 3},
       },
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -150,8 +152,8 @@ const CellTable& Agreements() {
 
 const std::vector<KeptTable>& FrmStudentTotal::Kept() {
   static const std::vector<KeptTable> tables = {
-      {"2.3", "gridEnrolment", -1, &EnrolmentDesign(), CellsOf(Enrolment())},
-      {"2.4", "gridAgreements", -1, &AgreementsDesign(), CellsOf(Agreements())},
+      {"2.3", "gridEnrolment", -1, &EnrolmentDesign(), &Enrolment()},
+      {"2.4", "gridAgreements", -1, &AgreementsDesign(), &Agreements()},
   };
   return tables;
 }

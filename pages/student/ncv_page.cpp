@@ -126,7 +126,7 @@ const CellTable& PopulationGroups() {
       .insert = "Insert into tbl_StudentPopulationGroupNCV",
       .body = {4, 4, 13, 22},
       .walk = Walk::kColumnByColumn,
-      .rows = {.fields = {"programmeNCVCD"}, .offset = kRowOffset},
+      .rows = {.fields = {"programmeNCVCD"}, .offset = kRowOffset, .labels = {3}},
       .columns = PopulationColumns(),
       .values = {
           {"CollegeEmisNumber", kCollege}, {"CampusEmisnumber", kCampus},
@@ -160,8 +160,7 @@ const GridDesign& DesignOf(const NcvLevel& level) {
 
 std::vector<KeptTable> NcvPage::KeptOf(std::string_view page) {
   const NcvLevel& level = LevelOf(page);
-  return {{level.table, level.grid, kGridIndex, &DesignOf(level),
-           CellsOf(PopulationGroups(), level.code)}};
+  return {{level.table, level.grid, kGridIndex, &DesignOf(level), &PopulationGroups(), level.code}};
 }
 
 NcvPage::NcvPage(FormHost& host, const PageRow& page)

@@ -33,6 +33,7 @@ const Axis& PopulationColumns() {
           {10, {4, 1}},  {11, {4, 2}},
           {12, {5, 1}},  {13, {5, 2}},
       },
+      .labels = {2, 3},
   };
   return columns;
 }

@@ -27,3 +27,13 @@ grep -q '__stack_chk_fail' <<< "$symbols" || fail "no guard on the stack"
 # Whether a checked call is left in the program depends on what it calls: so as it was built.
 grep -q '_FORTIFY_SOURCE=2.*main.cpp' build/release/compile_commands.json ||
   fail "built without checked calls"
+
+# The department's folder is laid out and works, and is in nothing that users get.
+cmake --install build/release --component department --prefix "$folder/department" > /dev/null
+grep -q 'No site was chosen in it' \
+  <<< "$("$folder/department/survey-collect" check "$folder/CorvaleAnnualOstrel2012.mdb")" ||
+  fail "the department's command does not read the template"
+for package in build/release/packages/*.tar.gz build/release/packages/*.deb; do
+  [ -z "$({ tar -tf "$package" || dpkg -c "$package"; } 2> /dev/null | grep collect)" ] ||
+    fail "the department's command is in $package"
+done

@@ -15,6 +15,7 @@ namespace survey::testing {
 namespace {
 
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 class SurroundingsTest : public DesktopTest {
  protected:
@@ -154,7 +155,7 @@ TEST_F(SurroundingsTest, TheStatusLineFollowsTheCursorAndTheSelection) {
   Window().resize(1366, 768);
   OpenSiteAt("frmPage8");
   EXPECT_EQ(Text("statusSite"), "Blouklip FET College, Duinekop Campus");
-  EXPECT_EQ(Text("statusDatabase") + "|" + Text("statusPage"), "site|Page 8 of 17");
+  EXPECT_THAT(Text("statusDatabase") + "|" + Text("statusPage"), StartsWith("site|Page 8 of "));
   EXPECT_FALSE(Shows("statusSaved"));
   user_->Focus();
   EXPECT_THAT(Text("statusCell"), HasSubstr(", whole number"));

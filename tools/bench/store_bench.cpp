@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "checks/site_checks.h"
 #include "many_records.h"
 #include "measure.h"
 #include "pages/survey_pages.h"
@@ -20,6 +21,7 @@ constexpr double kOpenPageBound = 4;
 constexpr double kSavePageBound = 2;
 constexpr double kAmongManyBound = 1.3;
 constexpr double kChooseDatabaseBound = 4;
+constexpr double kCheckMillisecondsBound = 10;
 
 // A site with every table filled, and so many people with all their pages.
 struct FilledProgram : Program {
@@ -116,6 +118,20 @@ void AmongSites(benchmark::State& state) {
       [&] { OpenAndSaveAll(alone, Section::kCampus); }, kAmongManyBound);
 }
 BENCHMARK(AmongSites)->Arg(1)->Arg(30)->Arg(300)->UseManualTime();
+
+// What is in a site's survey, of one site with 100 people among so many.
+void CheckOfASite(benchmark::State& state) {
+  constexpr int kPeople = 100;
+  FilledProgram program(kPeople);
+  AddSites(program.host, static_cast<int>(state.range(0)) - 1);
+  const auto connection = program.survey.OpenAside();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(CheckSite(*connection, program.survey.CollegeEmisNumber,
+                                       program.survey.CampusEmisNumber, 2012));
+  }
+  state.counters[kBound] = kCheckMillisecondsBound;
+}
+BENCHMARK(CheckOfASite)->Arg(1)->Arg(300);
 
 // What is done when a database of so many filled sites is chosen: all its pages read, and compared
 // with the last copy. Against the bare engine that reads each table once.
