@@ -2,6 +2,7 @@
 # libraries that they need. `windows_runtime` are those of the users' program, `windows_plugins` Qt's
 # plugins by their folder.
 
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_SOURCE_DIR}/packaging/windows/under_wine.sh)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 set(qt ${CMAKE_SOURCE_DIR}/build/windows-libraries/qt)

@@ -22,6 +22,8 @@ if [ ! -f "$WINEPREFIX/ready" ]; then
   wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /f /v MessageFont /t REG_BINARY \
     /d "f4ffffff$(printf %024d 0)90010000$(printf %016d 0)$name$(printf %0$((128 - ${#name}))d 0)" \
     > /dev/null
+  # A program that crashes shall end, and not wait for an answer.
+  wine reg add 'HKCU\Software\Wine\WineDbg' /f /v ShowCrashDialog /t REG_DWORD /d 0 > /dev/null
   wineserver --wait
   touch "$WINEPREFIX/ready"
 fi
