@@ -17,6 +17,8 @@ if [ ! -f "$WINEPREFIX/ready" ]; then
   mkdir -p "$WINEPREFIX"
   wineboot --init > /dev/null 2>&1
   winecfg -v win10 > /dev/null 2>&1
+  # Whose own documents and desktop nobody changes.
+  find "$WINEPREFIX/drive_c/users" -type l -exec rm {} \; -exec mkdir {} \;
   # The texts of windows in a font of about the widths and of the size (12 pixels) that Windows has.
   name=$(printf %s 'Open Sans' | iconv -t UTF-16LE | od -An -v -tx1 | tr -d ' \n')
   wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /f /v MessageFont /t REG_BINARY \

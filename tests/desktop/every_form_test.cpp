@@ -97,12 +97,14 @@ TEST_F(EveryFormTest, TheFrameOfAListIsClosed) {
     list.setEnabled(enabled);
     const QImage image = Window().grab().toImage();
     const qreal ratio = image.devicePixelRatio();
-    const QRect frame(list.mapTo(&Window(), QPoint()) * ratio, list.size() * ratio);
+    const QRect frame =
+        QRectF(QPointF(list.mapTo(&Window(), QPoint())) * ratio, QSizeF(list.size()) * ratio)
+            .toAlignedRect();
     const QPoint middle = frame.center();
     const auto has_line = [&](QPoint edge, QPoint inwards) {
       const int ground = image.pixelColor(edge + 6 * inwards).lightness();
       bool found = false;
-      for (int i = 0; i < 3; ++i) {
+      for (int i = 0; i < 4; ++i) {
         found |= image.pixelColor(edge + i * inwards).lightness() < ground - 15;
       }
       return found;
