@@ -33,7 +33,7 @@ std::string WhyNoName(std::string_view name) {
   const std::string another = " Please supply another name.";
   const std::size_t forbidden = name.find_first_of(kForbidden);
   if (forbidden != std::string_view::npos) {
-    return std::string("A database name cannot contain the sign ") + name[forbidden] + "." +
+    return std::string("A database name cannot contain the sign '") + name[forbidden] + "'." +
            another;
   }
   if (std::ranges::any_of(name, IsControl)) {
@@ -42,8 +42,8 @@ std::string WhyNoName(std::string_view name) {
   if (name.ends_with('.')) return "A database name cannot end with a full stop." + another;
   const std::string first = Trim(name.substr(0, name.find('.')));
   if (!IsDevice(first)) return {};
-  return "\"" + first + "\" cannot be the name of a database, for Windows takes it for a device." +
-         another;
+  return "\"" + first +
+         "\" cannot be the name of a database, for some systems take it for a device." + another;
 }
 
 }  // namespace survey

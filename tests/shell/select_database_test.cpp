@@ -364,8 +364,8 @@ TEST_F(SelectDatabase, NamesOfNewDatabasesAreRefusedAndExitEndsTheProgramAtOnce)
     for (const char* taken : {"North", "../outside", "sub/name", long_for_its_journal.c_str()}) {
       EXPECT_EQ(try_name(taken), "This database name already exists. Please supply another name.|");
     }
-    for (const auto& [forbidden, told] : {std::pair{"a?b<c", "the sign ?"},
-                                          {"Duinekop: Campus", "the sign :"},
+    for (const auto& [forbidden, told] : {std::pair{"a?b<c", "the sign '?'"},
+                                          {"Duinekop: Campus", "the sign ':'"},
                                           {"North ..", "end with a full stop"},
                                           {"a\tb", "a tab"},
                                           {"nul", "\"nul\""},
